@@ -1,0 +1,68 @@
+#include "app/appsettings.h"
+#include "app/mainwindow.h"
+#include "app/startup.h"
+#include "app/updater.h"
+#include "i18n/translator.h"
+#include "style/moxstyle.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+
+#include <memory>
+
+int main(int argc, char *argv[])
+{
+    auto app = std::make_unique<QApplication>(argc, argv);
+
+    // The updater relaunches us with "--apply-update <args...>": no window, no
+    // settings, no theme; its exit code is ours.
+    if (const auto handOver = updateHandOverArguments(QCoreApplication::arguments()))
+        return applyUpdate(*handOver);
+
+    QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("Art-Net Tester"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Torvane TALU - see what an LED installation shows for a "
+                                                    "stream of Art-Net DMX data."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("patch"), QStringLiteral("Patch to load (.tpatch, .mpz, .elm)."),
+                                 QStringLiteral("[PATCH]"));
+    parser.addPositionalArgument(QStringLiteral("recording"), QStringLiteral("Recording to load (.tpx)."),
+                                 QStringLiteral("[RECORDING]"));
+    parser.process(*app);
+    const QStringList files = parser.positionalArguments();
+
+    auto icon = std::make_unique<QIcon>(QStringLiteral(":/icons/exelogo.ico"));
+    if (icon->availableSizes().isEmpty())
+        *icon = QIcon(QStringLiteral(":/icons/logo.png"));
+    QApplication::setWindowIcon(*icon);
+
+    // Theme and language are in force before the first widget exists, so no
+    // widget is ever painted in the wrong look or language.
+    auto settings = openSettings();
+    MoxStyle style;
+    style.applyTheme(settings->value(SettingsKey::theme, MoxStyle::defaultThemeId()).toString());
+    style.install(*app);
+    Translator translator;
+    translator.install(*app);
+    translator.applyLanguage(settings->value(SettingsKey::language, Translator::defaultLanguageId()).toString());
+
+    auto window = std::make_unique<MainWindow>();
+    auto updates = std::make_unique<UpdateController>(window.get());
+    updates->startBackgroundCheck();
+
+    window->show();
+    window->openFiles(files.value(0), files.value(1));
+    const int exitCode = app->exec();
+
+    updates.reset();
+    window.reset();
+    settings.reset();
+    icon.reset();
+    app.reset();
+    return exitCode;
+}

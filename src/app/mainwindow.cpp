@@ -1,0 +1,351 @@
+#include "app/mainwindow.h"
+
+#include "panels/patchbar.h"
+#include "panels/placeholderpanel.h"
+#include "panels/statuslabel.h"
+#include "patch/patchloader.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kLeftColumnMinWidth = 340;
+constexpr int kLeftColumnMaxWidth = 460;
+
+enum SourcePage { RecordedPage = 0, BroadcastPage = 1 };
+enum SideTab { GroupsTab = 0, PatchTab = 1, DmxTab = 2 };
+
+// Layout-ready pixels until the layout step exists: leds of fixtures that have a usable scene layout.
+qint64 drawablePixels(const TPatch::PatchData &patch)
+{
+    qint64 count = 0;
+    for (const auto &group : patch.groups)
+        for (const auto &torvoverse : group.torvoverses)
+            for (const auto &fixture : torvoverse.fixtures)
+                if (fixture.hasLayout)
+                    count += fixture.leds.size();
+    return count;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
+{
+    setWindowTitle(QStringLiteral("Torvane TALU"));
+    resize(1420, 880);
+
+    buildCentralWidget();
+    showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
+    retranslateUi();
+
+    loadSettings();
+    applySourceMode();
+}
+
+MainWindow::~MainWindow()
+{
+    saveSettings();
+    // The playback clock, the node and the live recording file join this
+    // teardown when they arrive: clock stopped, node stopped, file closed,
+    // in that order, before the members are freed.
+}
+
+void MainWindow::buildCentralWidget()
+{
+    auto *central = new QWidget(this);
+    auto *layout = new QHBoxLayout(central);
+    layout->addWidget(buildLeftColumn());
+    layout->addWidget(buildRightArea(), 1);
+    setCentralWidget(central);
+}
+
+QWidget *MainWindow::buildLeftColumn()
+{
+    auto *column = new QWidget(this);
+    column->setMinimumWidth(kLeftColumnMinWidth);
+    column->setMaximumWidth(kLeftColumnMaxWidth);
+    auto *layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    m_patchBar = new PatchBar(column);
+    connect(m_patchBar, &PatchBar::uploadRequested, this, &MainWindow::onUploadRequested);
+    layout->addWidget(m_patchBar);
+
+    m_sourceBox = new QGroupBox(column);
+    auto *sourceLayout = new QVBoxLayout(m_sourceBox);
+    m_recordedRadio = new QRadioButton(m_sourceBox);
+    m_liveRadio = new QRadioButton(m_sourceBox);
+    m_recordedRadio->setChecked(true);
+    auto *modes = new QButtonGroup(m_sourceBox);
+    modes->setExclusive(true);
+    modes->addButton(m_recordedRadio);
+    modes->addButton(m_liveRadio);
+    sourceLayout->addWidget(m_recordedRadio);
+    sourceLayout->addWidget(m_liveRadio);
+    connect(m_recordedRadio, &QRadioButton::toggled, this, &MainWindow::onModeChanged);
+    layout->addWidget(m_sourceBox);
+
+    m_sourceStack = new QStackedWidget(column);
+    m_playbackTabs = new QTabWidget(m_sourceStack);
+    m_playbackPanel = new PlaceholderPanel(QStringLiteral("PlaybackPanel"), QStringLiteral("Playback panel"));
+    m_gpsPanel = new PlaceholderPanel(QStringLiteral("GpsPlaybackPanel"), QStringLiteral("GPS playback panel"));
+    m_playbackTabs->addTab(m_playbackPanel, QString());
+    m_playbackTabs->addTab(m_gpsPanel, QString());
+    m_broadcastPanel = new PlaceholderPanel(QStringLiteral("BroadcastPanel"), QStringLiteral("Broadcast panel"));
+    m_sourceStack->insertWidget(RecordedPage, m_playbackTabs);
+    m_sourceStack->insertWidget(BroadcastPage, m_broadcastPanel);
+    layout->addWidget(m_sourceStack);
+
+    auto *scroll = new QScrollArea(column);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
+    m_sideTabs = new QTabWidget(scroll);
+    m_groupPanel = new PlaceholderPanel(QStringLiteral("GroupFilterPanel"), QStringLiteral("Group filter panel"));
+    m_summaryPanel = new PlaceholderPanel(QStringLiteral("PatchSummaryPanel"), QStringLiteral("Patch summary panel"));
+    m_dmxInspector = new PlaceholderPanel(QStringLiteral("DmxInspector"), QStringLiteral("DMX inspector"));
+    m_sideTabs->insertTab(GroupsTab, m_groupPanel, QString());
+    m_sideTabs->insertTab(PatchTab, m_summaryPanel, QString());
+    m_sideTabs->insertTab(DmxTab, m_dmxInspector, QString());
+    scroll->setWidget(m_sideTabs);
+    layout->addWidget(scroll, 1);
+    return column;
+}
+
+QWidget *MainWindow::buildRightArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    auto *bar = new QHBoxLayout;
+    m_monitorHint = new QLabel(area);
+    m_monitorHint->setObjectName(QStringLiteral("monitorHint"));
+    m_monitorHint->setProperty("labelRole", QStringLiteral("hint"));
+    m_fitButton = new QPushButton(area);
+    m_snapshotButton = new QPushButton(area);
+    m_whiteCheck = new QCheckBox(area);
+    m_axesCheck = new QCheckBox(area);
+    m_fastDrawCheck = new QCheckBox(area);
+    m_autoOrbitCheck = new QCheckBox(area);
+    m_frontButton = new QPushButton(area);
+    m_resetButton = new QPushButton(area);
+    bar->addWidget(m_monitorHint, 1);
+    for (QWidget *w : std::initializer_list<QWidget *>{m_fitButton, m_snapshotButton, m_whiteCheck, m_axesCheck,
+                                                       m_fastDrawCheck, m_autoOrbitCheck, m_frontButton,
+                                                       m_resetButton})
+        bar->addWidget(w);
+    layout->addLayout(bar);
+
+    m_monitorTabs = new QTabWidget(area);
+    m_monitorTabs->setObjectName(QStringLiteral("Monitor"));
+    m_view2d = new PlaceholderPanel(QStringLiteral("LedMonitorView"), QStringLiteral("2D monitor view"));
+    m_view3d = new PlaceholderPanel(QStringLiteral("Led3DView"), QStringLiteral("3D monitor view"));
+    m_monitorTabs->insertTab(0, m_view2d, QString());
+    m_monitorTabs->insertTab(1, m_view3d, QString());
+    layout->addWidget(m_monitorTabs, 1);
+    return area;
+}
+
+void MainWindow::retranslateUi()
+{
+    m_patchBar->retranslate();
+    m_sourceBox->setTitle(tr("Source"));
+    m_recordedRadio->setText(tr("Recorded playback"));
+    m_recordedRadio->setToolTip(tr("Play a .tpx recording. A patch is optional: without one the monitor stays "
+                                   "dark and the DMX tab shows the data."));
+    m_liveRadio->setText(tr("Live broadcast"));
+    m_liveRadio->setToolTip(tr("Act as an Art-Net node and paint the monitor from live DMX."));
+    m_playbackTabs->setTabText(0, tr("Standard Art-Net"));
+    m_playbackTabs->setTabToolTip(0, tr("One .tpx file recorded for the whole patch."));
+    m_playbackTabs->setTabText(1, tr("GPS Mirra"));
+    m_playbackTabs->setTabToolTip(1, tr("One .tpx file per group, recorded with GPS Sync Compatible Record.\n"
+                                        "All of them are driven from a single clock, frame n at the same instant."));
+    m_sideTabs->setTabText(GroupsTab, tr("Groups"));
+    m_sideTabs->setTabText(PatchTab, tr("Patch"));
+    m_sideTabs->setTabText(DmxTab, tr("DMX"));
+
+    m_fitButton->setText(tr("Fit to view"));
+    m_snapshotButton->setText(tr("Snapshot"));
+    m_snapshotButton->setToolTip(tr("Save the current monitor image as a PNG file"));
+    m_whiteCheck->setText(tr("White channels"));
+    m_whiteCheck->setToolTip(
+        tr("Add W / CW / WW channel values to the pixel colour.\n\nOff by default: MOX derives the white channels "
+           "FROM rgb, so there is no single correct way back. This is a visibility aid - without it, white-only "
+           "fixtures stay black even while they are receiving data."));
+    m_axesCheck->setText(tr("Axes"));
+    m_axesCheck->setToolTip(tr("Show the red / green / blue X-Y-Z arrows at the origin."));
+    m_fastDrawCheck->setText(tr("Fast draw"));
+    m_fastDrawCheck->setToolTip(tr("Draw LEDs as squares without antialiasing.\n\nRoughly 5x faster on large "
+                                   "patches - use it when the 3D view cannot keep up with playback. Pixels look "
+                                   "square instead of round."));
+    m_autoOrbitCheck->setText(tr("Auto orbit"));
+    m_autoOrbitCheck->setToolTip(
+        tr("Swing the model through +-45 degrees on two axes.\nTouching the view with the mouse stops it."));
+    m_frontButton->setText(tr("Front"));
+    m_resetButton->setText(tr("Reset"));
+    m_resetButton->setToolTip(tr("Back to the default angle and distance"));
+    m_monitorTabs->setTabText(0, tr("2D"));
+    m_monitorTabs->setTabText(1, tr("3D"));
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+        retranslateStatus();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::showStatus(std::function<QString()> textProducer, int timeoutMs)
+{
+    std::function<QString()> producer = std::move(textProducer);
+    const QString text = producer ? producer() : QString();
+    m_statusProducer = std::move(producer);
+    m_statusText = text;
+    m_statusTimeoutMs = timeoutMs;
+    m_statusShown.start();
+    statusBar()->showMessage(text, timeoutMs);
+}
+
+void MainWindow::retranslateStatus()
+{
+    if (!m_statusProducer)
+        return;
+    if (statusBar()->currentMessage() != m_statusText)
+        return; // expired, or something else replaced it
+    int remainingMs = 0;
+    if (m_statusTimeoutMs > 0) {
+        const qint64 left = m_statusTimeoutMs - m_statusShown.elapsed();
+        if (left < 1)
+            return;
+        remainingMs = int(left);
+    }
+    m_statusText = m_statusProducer();
+    statusBar()->showMessage(m_statusText, remainingMs);
+}
+
+StoredSettings MainWindow::currentSettings() const
+{
+    StoredSettings v = m_kept;
+    v.patchLastPath = m_patchBar->path();
+    // The GPS panel has no group rows yet, so the remembered set is written back unchanged.
+    v.gpsPaths = m_rememberedGpsPaths;
+    v.playbackTab = m_playbackTabs->currentIndex();
+    v.whiteChannels = m_whiteCheck->isChecked();
+    v.fastDraw3D = m_fastDrawCheck->isChecked();
+    v.viewTab = m_monitorTabs->currentIndex();
+    v.windowGeometry = saveGeometry();
+    return v;
+}
+
+void MainWindow::loadSettings()
+{
+    const std::unique_ptr<QSettings> settings = openSettings();
+    const StoredSettings v = readStoredSettings(*settings);
+    m_kept = v;
+    m_patchBar->setPath(v.patchLastPath);
+    m_rememberedGpsPaths = v.gpsPaths;
+    m_whiteCheck->setChecked(v.whiteChannels);
+    m_fastDrawCheck->setChecked(v.fastDraw3D);
+    m_monitorTabs->setCurrentIndex(v.viewTab);
+    {
+        // Restoring the tab is not a user's tab change: no tab-change handling.
+        const QSignalBlocker block(m_playbackTabs);
+        m_playbackTabs->setCurrentIndex(v.playbackTab);
+    }
+    if (!v.windowGeometry.isEmpty())
+        restoreGeometry(v.windowGeometry);
+}
+
+void MainWindow::saveSettings()
+{
+    const std::unique_ptr<QSettings> settings = openSettings();
+    writeStoredSettings(*settings, currentSettings(), !isFullScreen());
+}
+
+void MainWindow::onModeChanged()
+{
+    applySourceMode();
+}
+
+void MainWindow::applySourceMode()
+{
+    const bool recorded = m_recordedRadio->isChecked();
+    m_sourceStack->setCurrentIndex(recorded ? RecordedPage : BroadcastPage);
+    m_playbackTabs->setEnabled(recorded);
+    m_broadcastPanel->setEnabled(!recorded);
+}
+
+void MainWindow::openFiles(const QString &patchPath, const QString &recordingPath)
+{
+    if (!patchPath.isEmpty()) {
+        m_patchBar->setPath(patchPath);
+        onUploadRequested(patchPath);
+    }
+    if (!recordingPath.isEmpty())
+        onRecordingLoadRequested(recordingPath);
+}
+
+void MainWindow::onUploadRequested(const QString &path)
+{
+    m_patchBar->setBusy(true);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    TPatch::PatchLoadResult result = TPatch::loadPatch(path);
+    const qint64 ms = elapsed.elapsed();
+    QApplication::restoreOverrideCursor();
+    m_patchBar->setBusy(false);
+
+    if (!result.ok) {
+        const TPatch::PatchMessage error = result.error;
+        m_patchBar->statusLabel()->showMessage([error] { return error.text(); }, 2);
+        showStatus([] { return tr("Patch could not be loaded."); }, 0);
+        QMessageBox::warning(this, tr("Patch Error"), error.text());
+        return;
+    }
+
+    m_patch = std::move(result.patch);
+    m_patchLoaded = true;
+    const QString fileName = QFileInfo(path).fileName();
+    const qint64 warnings = result.warnings.size();
+    if (warnings == 0) {
+        m_patchBar->statusLabel()->showMessage([fileName, ms] { return tr("Loaded %1 in %2 ms.").arg(fileName).arg(ms); }, 0);
+    } else {
+        m_patchBar->statusLabel()->showMessage(
+            [fileName, ms, warnings] {
+                return tr("Loaded %1 in %2 ms with %3 warning(s) - see the Patch tab.").arg(fileName).arg(ms).arg(warnings);
+            },
+            1);
+    }
+    m_sideTabs->setCurrentIndex(PatchTab);
+    const qint64 drawn = drawablePixels(m_patch);
+    showStatus([drawn] { return tr("%1 pixels drawn.").arg(drawn); }, 0);
+    applySourceMode();
+    saveSettings();
+}
+
+void MainWindow::onRecordingLoadRequested(const QString &path)
+{
+    m_kept.playbackLastPath = path;
+    showStatus([] { return tr("Recording playback is not available in this build yet."); }, 5000);
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "app/appsettings.h"
+#include "patch/patchdata.h"
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+
+#include <functional>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+class QStackedWidget;
+class QTabWidget;
+class PatchBar;
+class PlaceholderPanel;
+
+// The single main window: owns the side panels, the monitor views and the
+// status line, and is the only place where the subsystems meet. Panels emit
+// requests; the window decides, calls the cores and pushes state back.
+// GUI thread only.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    // The single way any workflow reports on the status line. The producer is
+    // kept and called again on a language change; timeoutMs 0 means until replaced.
+    void showStatus(std::function<QString()> textProducer, int timeoutMs);
+    // Re-produces the current status text in the new language, for the time
+    // that remains of its time-out; an expired or replaced message stays gone.
+    void retranslateStatus();
+
+    void loadSettings();
+    void saveSettings();
+
+    // The values the window would save now (the panels' state and what it keeps
+    // for panels still to come).
+    StoredSettings currentSettings() const;
+
+    // Loads the files named on the command line: a patch, then a recording.
+    void openFiles(const QString &patchPath, const QString &recordingPath);
+
+    bool isPatchLoaded() const { return m_patchLoaded; }
+    const TPatch::PatchData &patch() const { return m_patch; }
+
+public slots:
+    void onUploadRequested(const QString &path);
+    void onRecordingLoadRequested(const QString &path);
+    void onModeChanged();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void buildCentralWidget();
+    QWidget *buildLeftColumn();
+    QWidget *buildRightArea();
+    void retranslateUi();
+    void applySourceMode();
+
+    // Left column
+    PatchBar *m_patchBar = nullptr;
+    QGroupBox *m_sourceBox = nullptr;
+    QRadioButton *m_recordedRadio = nullptr;
+    QRadioButton *m_liveRadio = nullptr;
+    QStackedWidget *m_sourceStack = nullptr;
+    QTabWidget *m_playbackTabs = nullptr;
+    PlaceholderPanel *m_playbackPanel = nullptr;
+    PlaceholderPanel *m_gpsPanel = nullptr;
+    PlaceholderPanel *m_broadcastPanel = nullptr;
+    QTabWidget *m_sideTabs = nullptr;
+    PlaceholderPanel *m_groupPanel = nullptr;
+    PlaceholderPanel *m_summaryPanel = nullptr;
+    PlaceholderPanel *m_dmxInspector = nullptr;
+
+    // Right area
+    QLabel *m_monitorHint = nullptr;
+    QPushButton *m_fitButton = nullptr;
+    QPushButton *m_snapshotButton = nullptr;
+    QCheckBox *m_whiteCheck = nullptr;
+    QCheckBox *m_axesCheck = nullptr;
+    QCheckBox *m_fastDrawCheck = nullptr;
+    QCheckBox *m_autoOrbitCheck = nullptr;
+    QPushButton *m_frontButton = nullptr;
+    QPushButton *m_resetButton = nullptr;
+    QTabWidget *m_monitorTabs = nullptr;
+    PlaceholderPanel *m_view2d = nullptr;
+    PlaceholderPanel *m_view3d = nullptr;
+
+    // Values loaded for panels that do not exist yet; saved back unchanged.
+    StoredSettings m_kept;
+    // "gps/paths" as last loaded, written back while the GPS panel has no rows.
+    QStringList m_rememberedGpsPaths;
+
+    // Status line
+    std::function<QString()> m_statusProducer;
+    QString m_statusText;
+    int m_statusTimeoutMs = 0;
+    QElapsedTimer m_statusShown;
+
+    TPatch::PatchData m_patch;
+    bool m_patchLoaded = false;
+};

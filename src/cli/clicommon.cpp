@@ -1,0 +1,48 @@
+#include "cli/clicommon.h"
+
+#include <QJsonDocument>
+
+#include <cstdio>
+
+void printOut(const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+void printErr(const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
+    std::fputc('\n', stderr);
+}
+
+void printJson(const QJsonObject &object)
+{
+    const QByteArray bytes = QJsonDocument(object).toJson(QJsonDocument::Indented);
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+bool parseCommandLine(QCommandLineParser &parser, const QString &command, const QStringList &arguments,
+                      bool *helpShown)
+{
+    *helpShown = false;
+    const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
+    parser.addOption(help);
+    QStringList argv{QStringLiteral("talu-cli ") + command};
+    argv += arguments;
+    if (!parser.parse(argv)) {
+        printErr(QStringLiteral("talu-cli %1: %2").arg(command, parser.errorText()));
+        printErr(parser.helpText());
+        return false;
+    }
+    if (parser.isSet(help)) {
+        printOut(parser.helpText());
+        *helpShown = true;
+    }
+    return true;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QStringList>
+
+// talu-cli generate demo-patch OUT
+int runGenerateCommand(const QStringList &arguments);

@@ -1,0 +1,67 @@
+#include "cli/clicommon.h"
+#include "cli/generatecommand.h"
+#include "cli/patchcommand.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+
+namespace {
+
+struct Command
+{
+    const char *name;
+    const char *summary;
+    std::function<int(const QStringList &)> run;
+};
+
+const Command kCommands[] = {
+    {"patch", "load a patch and print its contents and warnings", runPatchCommand},
+    {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
+};
+
+QString usage()
+{
+    QString text = QStringLiteral(
+        "Usage: talu-cli COMMAND [OPTIONS...]\n"
+        "\n"
+        "The headless companion of Torvane TALU: every core capability without a display.\n"
+        "Every command takes --help and, where it reports, --json.\n"
+        "Exit codes: 0 ok, 1 the input was refused, 2 usage error.\n"
+        "\n"
+        "Commands:\n");
+    for (const Command &c : kCommands)
+        text += QStringLiteral("  %1%2\n").arg(QString::fromLatin1(c.name).leftJustified(12), QString::fromLatin1(c.summary));
+    return text;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("talu-cli"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+
+    const QStringList args = QCoreApplication::arguments().mid(1);
+    if (args.isEmpty()) {
+        printErr(usage());
+        return ExitUsage;
+    }
+    const QString name = args.constFirst();
+    if (name == QLatin1StringView("--help") || name == QLatin1StringView("-h") || name == QLatin1StringView("help")) {
+        printOut(usage());
+        return ExitOk;
+    }
+    if (name == QLatin1StringView("--version")) {
+        printOut(QStringLiteral("talu-cli 1.0.0"));
+        return ExitOk;
+    }
+    for (const Command &c : kCommands) {
+        if (name == QLatin1StringView(c.name))
+            return c.run(args.mid(1));
+    }
+    printErr(QStringLiteral("talu-cli: unknown command \"%1\".\n").arg(name) + usage());
+    return ExitUsage;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class QApplication;
+
+// The theme engine: named palettes, a style-sheet template whose placeholders
+// name a palette role ("{window}", optionally with an alpha percentage
+// "{accent@40}"), and the message-level colours every panel and the status
+// line use. This first version knows the two built-in palettes; user themes
+// come later. GUI thread only.
+class MoxStyle : public QObject
+{
+    Q_OBJECT
+public:
+    // Severity of a panel message or status text.
+    enum MsgLevel { Info = 0, Warning = 1, Error = 2 };
+    Q_ENUM(MsgLevel)
+
+    explicit MoxStyle(QObject *parent = nullptr);
+
+    static QString defaultThemeId();
+    QStringList themeIds() const;
+    QString currentThemeId() const { return m_themeId; }
+
+    // Applies a theme by id; an unknown id applies the default theme.
+    void applyTheme(const QString &id);
+    // Installs the current palette and style sheet on the application.
+    void install(QApplication &app) const;
+
+    QColor colour(const QString &role) const;
+    QColor messageColour(MsgLevel level) const;
+    // "{role}" and "{role@percent}" replaced by the palette's colours.
+    QString expandTemplate(const QString &styleSheetTemplate) const;
+
+signals:
+    void themeChanged(const QString &id);
+
+private:
+    QString m_themeId;
+    QHash<QString, QColor> m_palette;
+};
