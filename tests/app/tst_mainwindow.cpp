@@ -1,4 +1,253 @@
+#include "app/appsettings.h"
+#include "app/mainwindow.h"
+#include "panels/patchbar.h"
+#include "panels/statuslabel.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QTabWidget>
 #include <QtTest>
-class T : public QObject { Q_OBJECT private slots: void x() {} };
-QTEST_GUILESS_MAIN(T)
+
+namespace {
+
+void clearSettings()
+{
+    auto s = openSettings();
+    s->clear();
+    s->sync();
+}
+
+QTabWidget *monitorTabs(MainWindow &w)
+{
+    return w.findChild<QTabWidget *>(QStringLiteral("Monitor"));
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init() { clearSettings(); }
+    void firstStartDefaults();
+    void settingsRoundTripUnchanged();
+    void fullScreenKeepsStoredGeometry();
+    void corruptSettingsFileStillStarts();
+    void frameShowsEveryControl();
+    void sourceModeSwitchesPage();
+    void statusRetranslatesForRemainingTime();
+    void expiredStatusIsNotBroughtBack();
+    void patchBarRefusesBlankPath();
+    void loadingDemoPatchReports();
+};
+
+void TestMainWindow::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
+}
+
+void TestMainWindow::firstStartDefaults()
+{
+    MainWindow w;
+    const StoredSettings v = w.currentSettings();
+    QCOMPARE(v.playbackFps, 40);
+    QCOMPARE(v.gpsFps, 40);
+    QCOMPARE(v.broadcastRecordFps, 40);
+    QVERIFY(v.gpsLoop);
+    QVERIFY(!v.whiteChannels);
+    QVERIFY(!v.fastDraw3D);
+    QCOMPARE(v.viewTab, 0);
+    QCOMPARE(v.playbackTab, 0);
+    QCOMPARE(w.size(), QSize(1420, 880));
+    QCOMPARE(w.windowTitle(), QStringLiteral("Torvane TALU"));
+    QCOMPARE(w.statusBar()->currentMessage(),
+             QStringLiteral("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."));
+}
+
+void TestMainWindow::settingsRoundTripUnchanged()
+{
+    StoredSettings stored;
+    stored.patchLastPath = QStringLiteral("/shows/hall.tpatch");
+    stored.playbackLastPath = QStringLiteral("/shows/hall.tpx");
+    stored.playbackFps = 44;
+    stored.playbackTab = 1;
+    stored.gpsFps = 25;
+    stored.gpsLoop = false;
+    stored.gpsPaths = QStringList{QStringLiteral("/gps/a_Facade.tpx"), QStringLiteral("/gps/a_Floor.tpx")};
+    stored.broadcastAddress = QStringLiteral("192.0.2.1");
+    stored.broadcastShortName = QStringLiteral("TALU");
+    stored.broadcastLongName = QStringLiteral("TALU bench");
+    stored.broadcastRecordDir = QStringLiteral("/rec");
+    stored.broadcastRecordName = QStringLiteral("take1");
+    stored.broadcastRecordFps = 30;
+    stored.whiteChannels = true;
+    stored.fastDraw3D = true;
+    stored.viewTab = 1;
+    stored.lastSnapshotDir = QStringLiteral("/snaps");
+    {
+        auto s = openSettings();
+        writeStoredSettings(*s, stored, false);
+        s->setValue(SettingsKey::theme, QStringLiteral("light"));
+    }
+    {
+        MainWindow w;
+        QCOMPARE(monitorTabs(w)->currentIndex(), 1);
+        QCOMPARE(w.findChild<PatchBar *>()->path(), stored.patchLastPath);
+        const StoredSettings shown = w.currentSettings();
+        stored.windowGeometry = shown.windowGeometry; // the window's own, checked separately
+        QCOMPARE(shown, stored);
+    } // destructor saves
+    auto s = openSettings();
+    StoredSettings after = readStoredSettings(*s);
+    QVERIFY(!after.windowGeometry.isEmpty());
+    after.windowGeometry = stored.windowGeometry;
+    QCOMPARE(after, stored);
+    // Keys the window does not own are left alone.
+    QCOMPARE(s->value(SettingsKey::theme).toString(), QStringLiteral("light"));
+}
+
+void TestMainWindow::fullScreenKeepsStoredGeometry()
+{
+    QByteArray earlier;
+    {
+        MainWindow w;
+        w.resize(900, 600);
+    }
+    earlier = openSettings()->value(SettingsKey::windowGeometry).toByteArray();
+    QVERIFY(!earlier.isEmpty());
+    {
+        MainWindow w;
+        // Set the state without showing: the offscreen platform reports back a normal window once shown.
+        w.setWindowState(Qt::WindowFullScreen);
+        QVERIFY(w.isFullScreen());
+    }
+    QCOMPARE(openSettings()->value(SettingsKey::windowGeometry).toByteArray(), earlier);
+}
+
+void TestMainWindow::corruptSettingsFileStillStarts()
+{
+    const QString path = openSettings()->fileName();
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[General\x01\xff]\nplayback/fps=abc\nmonitor/viewTab=\x00\x02\n[[[\n\xfe\xfe", 48);
+    file.close();
+    MainWindow w;
+    QCOMPARE(w.currentSettings().playbackFps, 40); // unreadable: the default
+}
+
+void TestMainWindow::frameShowsEveryControl()
+{
+    MainWindow w;
+    QStringList texts;
+    for (auto *b : w.findChildren<QAbstractButton *>())
+        texts << b->text();
+    for (const char *t : {"Fit to view", "Snapshot", "White channels", "Axes", "Fast draw", "Auto orbit", "Front",
+                          "Reset", "Recorded playback", "Live broadcast", "Upload"})
+        QVERIFY2(texts.contains(QString::fromLatin1(t)), t);
+    QStringList tabs;
+    for (auto *tw : w.findChildren<QTabWidget *>())
+        for (int i = 0; i < tw->count(); ++i)
+            tabs << tw->tabText(i);
+    for (const char *t : {"Standard Art-Net", "GPS Mirra", "Groups", "Patch", "DMX"})
+        QVERIFY2(tabs.contains(QString::fromLatin1(t)), t);
+    for (const char *name : {"PlaybackPanel", "GpsPlaybackPanel", "BroadcastPanel", "GroupFilterPanel",
+                             "PatchSummaryPanel", "DmxInspector", "LedMonitorView", "Led3DView"})
+        QVERIFY2(w.findChild<QWidget *>(QString::fromLatin1(name)), name);
+}
+
+void TestMainWindow::sourceModeSwitchesPage()
+{
+    MainWindow w;
+    auto *stack = w.findChild<QStackedWidget *>();
+    QVERIFY(stack);
+    QCOMPARE(stack->currentIndex(), 0);
+    QRadioButton *live = nullptr;
+    for (auto *r : w.findChildren<QRadioButton *>())
+        if (r->text() == QStringLiteral("Live broadcast"))
+            live = r;
+    QVERIFY(live);
+    live->click();
+    QCOMPARE(stack->currentIndex(), 1);
+    QVERIFY(stack->widget(1)->isEnabled());
+    QVERIFY(!stack->widget(0)->isEnabled());
+}
+
+void TestMainWindow::statusRetranslatesForRemainingTime()
+{
+    MainWindow w;
+    QString language = QStringLiteral("en");
+    w.showStatus([&language] { return language == QStringLiteral("en") ? QStringLiteral("Playing.")
+                                                                          : QStringLiteral("Wiedergabe."); },
+                 1500);
+    QTest::qWait(900);
+    language = QStringLiteral("de");
+    w.retranslateStatus();
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("Wiedergabe."));
+    // Re-shown for what remained (about 600 ms), not for another 1500 ms.
+    QTRY_VERIFY_WITH_TIMEOUT(w.statusBar()->currentMessage().isEmpty(), 1200);
+
+    // A permanent message stays permanent.
+    w.showStatus([&language] { return QStringLiteral("Ready (%1)").arg(language); }, 0);
+    language = QStringLiteral("fr");
+    w.retranslateStatus();
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("Ready (fr)"));
+    QTest::qWait(100);
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("Ready (fr)"));
+}
+
+void TestMainWindow::expiredStatusIsNotBroughtBack()
+{
+    MainWindow w;
+    int produced = 0;
+    w.showStatus([&produced] { ++produced; return QStringLiteral("Sustaining about 38 fps."); }, 100);
+    QTRY_VERIFY(w.statusBar()->currentMessage().isEmpty());
+    w.retranslateStatus();
+    QVERIFY(w.statusBar()->currentMessage().isEmpty());
+    QCOMPARE(produced, 1);
+
+    // Replaced by someone else: left alone too.
+    w.showStatus([] { return QStringLiteral("Playing."); }, 0);
+    w.statusBar()->showMessage(QStringLiteral("tooltip hint"));
+    w.retranslateStatus();
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("tooltip hint"));
+}
+
+void TestMainWindow::patchBarRefusesBlankPath()
+{
+    MainWindow w;
+    auto *bar = w.findChild<PatchBar *>();
+    QSignalSpy spy(bar, &PatchBar::uploadRequested);
+    bar->setPath(QStringLiteral("   "));
+    bar->onUpload();
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(bar->statusLabel()->text(), QStringLiteral("Enter a patch path or pick one with the ... button."));
+    QCOMPARE(bar->statusLabel()->messageLevel(), 2);
+    bar->setBusy(true);
+    QVERIFY(!bar->findChild<QLineEdit *>()->isEnabled());
+    bar->setBusy(false);
+}
+
+void TestMainWindow::loadingDemoPatchReports()
+{
+    MainWindow w;
+    w.openFiles(QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"), QString());
+    QVERIFY(w.isPatchLoaded());
+    auto *bar = w.findChild<PatchBar *>();
+    QVERIFY(bar->statusLabel()->text().startsWith(QStringLiteral("Loaded demo.tpatch in ")));
+    QVERIFY(w.statusBar()->currentMessage().endsWith(QStringLiteral(" pixels drawn.")));
+    QCOMPARE(openSettings()->value(SettingsKey::patchLastPath).toString(),
+             QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"));
+}
+
+QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"
