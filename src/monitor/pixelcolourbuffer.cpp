@@ -5,7 +5,7 @@
 
 namespace {
 
-enum EvalKind : quint8 { Colour, Kinetic8, Kinetic16, KineticUnpatched };
+enum EvalKind : quint8 { Colour, ColourWithWhite, Kinetic8, Kinetic16, KineticUnpatched };
 
 // The sRGB transfer curves as tables, so evaluation never calls pow().
 struct GammaTables
@@ -91,14 +91,15 @@ void PixelColourBuffer::setPatch(const QVector<TPatch::LayoutPixel> *pixels)
             e.kind = !px.kineticChannel.hasChannel ? KineticUnpatched : px.kineticChannel.is16Bit ? Kinetic16 : Kinetic8;
             continue;
         }
-        e.kind = Colour;
         e.channel = px.startChannel;
+        e.slotOfRole.fill(-1);
         bool hasWhite = false;
         for (int s = 0; s < TPatch::kSlotCount; ++s) {
-            // Role codes outside 0..6 never come from a reader; treat them as
-            // unpatched so they cannot index past the component array.
-            const quint8 role = px.roles[s] < TPatch::kRoleCount ? px.roles[s] : quint8(TPatch::RoleNone);
-            e.roles[s] = role;
+            const quint8 role = px.roles[s];
+            if (role == TPatch::RoleNone || role >= TPatch::kRoleCount)
+                continue; // codes above 6 never come from a reader: unpatched
+            e.slotOfRole[role - 1] = qint8(s);
+            e.span = quint8(s + 1);
             if (role == TPatch::RoleWhite)
                 ++m_whiteSlots;
             else if (role == TPatch::RoleCoolWhite)
@@ -109,6 +110,7 @@ void PixelColourBuffer::setPatch(const QVector<TPatch::LayoutPixel> *pixels)
                 continue;
             hasWhite = true;
         }
+        e.kind = hasWhite ? ColourWithWhite : Colour;
         if (hasWhite)
             ++m_pixelsWithWhite;
     }
@@ -132,7 +134,6 @@ void PixelColourBuffer::applyUniverse(const int *pixelNumbers, qsizetype count, 
     const quint32 pixelCount = quint32(m_eval.size());
     // data() detaches at most once, and only if a reader kept a copy.
     QRgb *colours = m_colours.data();
-    float *kinetic = m_kineticValues.data();
     int peak = m_peakWhite;
     const bool whiteEnabled = m_whiteEnabled;
 
@@ -142,40 +143,67 @@ void PixelColourBuffer::applyUniverse(const int *pixelNumbers, qsizetype count, 
             continue;
         const EvalEntry &e = eval[p];
         const int channel = e.channel;
-        if (e.kind != Colour) {
-            if (e.kind == Kinetic16) {
-                if (channel + 1 < length)
-                    kinetic[p] = float(((data[channel] << 8) | data[channel + 1]) / 65535.0 * kKineticScale);
-            } else if (e.kind == Kinetic8) {
-                if (channel < length)
-                    kinetic[p] = float(data[channel] / 255.0 * kKineticScale);
-            }
+        if (e.kind > ColourWithWhite || channel + e.span > length) {
+            applyNearEnd(p, data, length, &peak);
             continue;
         }
-
-        // Indexed by role; slots without a role write into the unused entry 0.
-        quint8 c[TPatch::kRoleCount] = {};
-        if (channel + TPatch::kSlotCount <= length) {
-            for (int s = 0; s < TPatch::kSlotCount; ++s)
-                c[e.roles[s]] = data[channel + s];
-        } else {
-            for (int s = 0; s < TPatch::kSlotCount && channel + s < length; ++s)
-                c[e.roles[s]] = data[channel + s];
+        const quint8 *pixelData = data + channel;
+        const auto component = [&](int role) { return e.slotOfRole[role - 1] < 0 ? 0 : pixelData[e.slotOfRole[role - 1]]; };
+        const int red = component(TPatch::RoleRed), green = component(TPatch::RoleGreen);
+        const int blue = component(TPatch::RoleBlue);
+        if (e.kind == Colour) {
+            colours[p] = 0xFF000000u | (QRgb(red) << 16) | (QRgb(green) << 8) | QRgb(blue);
+            continue;
         }
-        const int white = c[TPatch::RoleWhite], cool = c[TPatch::RoleCoolWhite], warm = c[TPatch::RoleWarmWhite];
+        const int white = component(TPatch::RoleWhite), cool = component(TPatch::RoleCoolWhite);
+        const int warm = component(TPatch::RoleWarmWhite);
         // Keep the OR, not the max, in the test: the status line has always
         // reported the peak this way.
         if ((cool | warm | white) > peak)
             peak = std::max({white, cool, warm});
-        if (whiteEnabled && (white | cool | warm) != 0) {
-            colours[p] = mixWhite(gamma, c[TPatch::RoleRed], c[TPatch::RoleGreen], c[TPatch::RoleBlue], white, cool,
-                                  warm);
-        } else {
-            colours[p] = 0xFF000000u | (QRgb(c[TPatch::RoleRed]) << 16) | (QRgb(c[TPatch::RoleGreen]) << 8)
-                       | c[TPatch::RoleBlue];
-        }
+        if (whiteEnabled && (white | cool | warm) != 0)
+            colours[p] = mixWhite(gamma, red, green, blue, white, cool, warm);
+        else
+            colours[p] = 0xFF000000u | (QRgb(red) << 16) | (QRgb(green) << 8) | QRgb(blue);
     }
     m_peakWhite = peak;
+}
+
+// Kinetic items, and colour pixels whose slots run past a short universe's
+// end: each slot is read only when its channel is inside the data, a later
+// slot of the same role overriding an earlier one.
+void PixelColourBuffer::applyNearEnd(int p, const quint8 *data, int length, int *peak)
+{
+    const EvalEntry &e = m_eval.at(p);
+    const int channel = e.channel;
+    switch (e.kind) {
+    case Kinetic16:
+        if (channel + 1 < length)
+            m_kineticValues[p] = float(((data[channel] << 8) | data[channel + 1]) / 65535.0 * kKineticScale);
+        return;
+    case Kinetic8:
+        if (channel < length)
+            m_kineticValues[p] = float(data[channel] / 255.0 * kKineticScale);
+        return;
+    case KineticUnpatched:
+        return;
+    default:
+        break;
+    }
+    // Indexed by role; slots without a role write into the unused entry 0.
+    int c[TPatch::kRoleCount] = {};
+    const auto &roles = m_pixels->at(p).roles;
+    for (int s = 0; s < TPatch::kSlotCount && channel + s < length; ++s)
+        c[roles[s] < TPatch::kRoleCount ? roles[s] : 0] = data[channel + s];
+    const int white = c[TPatch::RoleWhite], cool = c[TPatch::RoleCoolWhite], warm = c[TPatch::RoleWarmWhite];
+    if ((cool | warm | white) > *peak)
+        *peak = std::max({white, cool, warm});
+    if (m_whiteEnabled && (white | cool | warm) != 0)
+        m_colours[p] = mixWhite(gammaTables(), c[TPatch::RoleRed], c[TPatch::RoleGreen], c[TPatch::RoleBlue], white,
+                                cool, warm);
+    else
+        m_colours[p] = 0xFF000000u | (QRgb(c[TPatch::RoleRed]) << 16) | (QRgb(c[TPatch::RoleGreen]) << 8)
+                     | QRgb(c[TPatch::RoleBlue]);
 }
 
 void PixelColourBuffer::storeUniverse(quint16 portAddress, const quint8 *data, int length)

@@ -61,12 +61,18 @@ public:
     static constexpr double kKineticScale = 50.0;
 
 private:
+    void applyNearEnd(int pixelNumber, const quint8 *data, int length, int *peak);
+
     // What evaluation needs of a pixel, packed so a large patch's pass over a
     // universe stays in cache (the full entries are ten times larger).
     struct EvalEntry
     {
         quint16 channel = 0; // start channel, or the kinetic channel
-        std::array<quint8, TPatch::kSlotCount> roles{};
+        // Per role R, G, B, W, CW, WW: the slot that supplies it (the last one
+        // carrying the role), or -1. Valid when the pixel's slots all lie
+        // inside the data; near a short universe's end the slots are walked.
+        std::array<qint8, TPatch::kSlotCount> slotOfRole{};
+        quint8 span = 0; // 1 + the highest slot with a role, 0 for none
         quint8 kind = 0;
     };
 
