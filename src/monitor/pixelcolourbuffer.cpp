@@ -190,6 +190,8 @@ void PixelColourBuffer::applyNearEnd(int p, const quint8 *data, int length, int 
     default:
         break;
     }
+    if (p >= m_pixels->size()) // the list was changed behind setPatch's back
+        return;
     // Indexed by role; slots without a role write into the unused entry 0.
     int c[TPatch::kRoleCount] = {};
     const auto &roles = m_pixels->at(p).roles;
