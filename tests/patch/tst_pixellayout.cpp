@@ -83,6 +83,8 @@ private slots:
     void overlap_data();
     void overlap();
     void arcsAreRound();
+    void arcSteps_data();
+    void arcSteps();
     void freePositions();
     void badInput_data();
     void badInput();
@@ -340,6 +342,47 @@ void TestPixelLayout::arcsAreRound()
     const QPointF first = buildPixelLayout(patchOf({wrap})).pixels.constFirst().centre;
     const QPointF last = buildPixelLayout(patchOf({wrap})).pixels.constLast().centre;
     QVERIFY(first.y() > last.y()); // from 6 o'clock via 3 o'clock up to 12 o'clock
+}
+
+void TestPixelLayout::arcSteps_data()
+{
+    QTest::addColumn<int>("countX");
+    QTest::addColumn<int>("records");
+    QTest::addColumn<int>("resizeFactor");
+    QTest::addColumn<QRectF>("cells");
+    // A quarter arc from 3 o'clock to 12 o'clock of radius 30 scene units:
+    // 10 steps at resizeFactor 1, 5 at 2. Bounds include half a cell all round.
+    auto quarter = [](double r, double a0, double a1) {
+        return QRectF(r * std::cos(a1) - 0.5, -r * std::sin(a1) - 0.5, r * (std::cos(a0) - std::cos(a1)) + 1,
+                      r * (std::sin(a1) - std::sin(a0)) + 1);
+    };
+    const double d = M_PI / 180;
+    QTest::newRow("3 records") << 3 << 3 << 1 << quarter(10, 15 * d, 75 * d);
+    QTest::newRow("resize 2") << 3 << 3 << 2 << quarter(5, 15 * d, 75 * d);
+    // countX names more pixels than there are records: they bunch at the start.
+    QTest::newRow("countX 6") << 6 << 3 << 1 << quarter(10, 7.5 * d, 37.5 * d);
+    // A record beyond countX widens the count instead of running off the arc.
+    QTest::newRow("countX 1") << 1 << 3 << 1 << quarter(10, 15 * d, 75 * d);
+}
+
+void TestPixelLayout::arcSteps()
+{
+    QFETCH(int, countX);
+    QFETCH(int, records);
+    QFETCH(int, resizeFactor);
+    QFETCH(QRectF, cells);
+    PatchFixture f;
+    f.isArc = true;
+    f.arcRadius = 30;
+    f.arcStartAngle = 0;
+    f.arcEndAngle = 90;
+    f.countX = quint16(countX);
+    f.resizeFactor = resizeFactor;
+    for (int i = 0; i < records; ++i)
+        f.leds.append(record(i, 0));
+    const QRectF b = gridCellBounds(f);
+    QVERIFY2(fuzzyPoint(b.topLeft(), cells.topLeft()) && fuzzyPoint(b.bottomRight(), cells.bottomRight()),
+             qPrintable(QStringLiteral("%1 %2 %3 %4").arg(b.x()).arg(b.y()).arg(b.width()).arg(b.height())));
 }
 
 void TestPixelLayout::freePositions()
