@@ -1,10 +1,13 @@
 #include "cli/demopatch.h"
 
+#include "patch/gridplacement.h"
+
 using namespace TPatch;
 
 namespace {
 
-constexpr double kCell = 10; // scene units per grid step
+constexpr double kCell = 10;   // scene units per grid step of the matrices and strips
+constexpr double kArcStep = 3; // scene units per grid step of the arcs (resizeFactor 1)
 
 LedRecord pixelAt(int x, int y, int z, int address, std::initializer_list<quint8> roles)
 {
@@ -60,10 +63,14 @@ PatchFixture arc(const QString &name, int pixels, double radius, double startDeg
     for (int i = 0; i < pixels; ++i)
         f.leds.append(pixelAt(i, 0, 0, firstAddress + 3 * i, {RoleRed, RoleGreen, RoleBlue}));
     f.maxChannelCount = quint16(3 * pixels);
+    // The editor keeps an arc's rectangle around its cells, one step being
+    // resizeFactor x 3 scene units; the arc's centre then sits at scenePos
+    // minus the cells' top-left corner. Centre the arc at (x + R, y + R).
+    const QRectF cells = gridCellBounds(f);
     f.hasLayout = true;
-    f.scenePosX = x;
-    f.scenePosY = y;
-    f.rect = QRectF(0, 0, 2 * radius, 2 * radius);
+    f.rect = QRectF(0, 0, cells.width() * kArcStep, cells.height() * kArcStep);
+    f.scenePosX = x + radius + cells.left() * kArcStep;
+    f.scenePosY = y + radius + cells.top() * kArcStep;
     return f;
 }
 

@@ -1,4 +1,5 @@
 #include "cli/clicommon.h"
+#include "cli/colourcommand.h"
 #include "cli/generatecommand.h"
 #include "cli/patchcommand.h"
 
@@ -17,6 +18,7 @@ struct Command
 
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
+    {"colour", "evaluate one pixel's colour from DMX bytes, as the monitor does", runColourCommand},
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
 };
 

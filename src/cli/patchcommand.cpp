@@ -2,6 +2,7 @@
 
 #include "cli/clicommon.h"
 #include "patch/patchloader.h"
+#include "patch/pixellayout.h"
 
 #include <QJsonArray>
 
@@ -11,8 +12,17 @@ int runPatchCommand(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral(
         "Loads a patch (.tpatch, MADRIX .mpz or ENTTEC ELM .elm) the way the program does and prints the result.\n"
         "\n"
-        "With --json, one object: ok (bool), error (text or null), warnings (array of texts, in order), format,\n"
-        "project, groups, torvoverses, fixtures, pixels, kinetics.\n"
+        "With --json, one object:\n"
+        "  ok             bool, true when the patch loaded\n"
+        "  error          the reason it was refused, or null\n"
+        "  warnings       array of texts: the reader's warnings in order, then the layout's (overlapping fixtures)\n"
+        "  format         the patch format's name\n"
+        "  project        the project name (empty when the patch has none)\n"
+        "  groups, torvoverses, fixtures, pixels, kinetics   counts of the patch tree (pixels = colour records)\n"
+        "  drawablePixels colour pixels the monitor draws (records of fixtures with a usable layout)\n"
+        "  sceneRect      [x, y, width, height] of the union of all laid-out pixels and kinetic items,\n"
+        "                 [0, 0, 0, 0] when nothing is drawn\n"
+        "  zRange         [lowest, highest] Z layer of the laid-out records, or null when nothing is drawn\n"
         "Exit codes: 0 loaded, 1 the patch was refused, 2 usage error."));
     parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The patch file."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
@@ -29,9 +39,13 @@ int runPatchCommand(const QStringList &arguments)
 
     const TPatch::PatchLoadResult result = TPatch::loadPatch(parser.positionalArguments().constFirst());
     const TPatch::PatchCounts counts = TPatch::countPatch(result.patch);
+    const TPatch::PixelLayout layout = result.ok ? TPatch::buildPixelLayout(result.patch) : TPatch::PixelLayout{};
     QStringList warnings;
     for (const TPatch::PatchMessage &w : result.warnings)
         warnings.append(w.untranslatedText());
+    for (const TPatch::PatchMessage &w : layout.warnings)
+        warnings.append(w.untranslatedText());
+    const QRectF scene = layout.sceneRect;
 
     if (parser.isSet(json)) {
         printJson(QJsonObject{
@@ -45,6 +59,10 @@ int runPatchCommand(const QStringList &arguments)
             {QStringLiteral("fixtures"), counts.fixtures},
             {QStringLiteral("pixels"), counts.pixels},
             {QStringLiteral("kinetics"), counts.kinetics},
+            {QStringLiteral("drawablePixels"), layout.drawablePixelCount()},
+            {QStringLiteral("sceneRect"), QJsonArray{scene.x(), scene.y(), scene.width(), scene.height()}},
+            {QStringLiteral("zRange"), layout.zRange.seen ? QJsonValue(QJsonArray{layout.zRange.min, layout.zRange.max})
+                                                          : QJsonValue()},
         });
     } else if (!result.ok) {
         printErr(QStringLiteral("error: ") + result.error.untranslatedText());
@@ -58,6 +76,14 @@ int runPatchCommand(const QStringList &arguments)
                      .arg(counts.fixtures)
                      .arg(counts.pixels)
                      .arg(counts.kinetics));
+        printOut(QStringLiteral("%1 drawable pixels, scene %2, %3 %4 x %5")
+                     .arg(layout.drawablePixelCount())
+                     .arg(scene.x())
+                     .arg(scene.y())
+                     .arg(scene.width())
+                     .arg(scene.height()));
+        if (layout.zRange.seen)
+            printOut(QStringLiteral("Z layers %1 - %2").arg(layout.zRange.min).arg(layout.zRange.max));
         for (const QString &w : warnings)
             printOut(QStringLiteral("warning: ") + w);
     }
