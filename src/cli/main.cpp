@@ -2,6 +2,7 @@
 #include "cli/colourcommand.h"
 #include "cli/generatecommand.h"
 #include "cli/patchcommand.h"
+#include "cli/rendercommand.h"
 
 #include <QCoreApplication>
 
@@ -19,6 +20,7 @@ struct Command
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"colour", "evaluate one pixel's colour from DMX bytes, as the monitor does", runColourCommand},
+    {"render", "draw the 2D or 3D monitor picture of a patch into a PNG file", runRenderCommand},
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
 };
 

@@ -20,8 +20,11 @@ struct Model3D
     QVector<Kinetic3> kinetics;  // one per kinetic item, value 0
     QVector<int> pointPixels;    // drawn point -> pixel number
     QVector<int> kineticPixels;  // kinetic item -> pixel number
-    double worldScale = 1.0;
-    double ledRadius = 1.0; // in model units at worldScale
+    // View units per model unit. Large enough that a fitted camera stands
+    // well outside the model (distance > half its depth) on screens up to 8K
+    // wide, so the near plane never cuts a fitted picture.
+    double worldScale = 10.0;
+    double ledRadius = 1.0; // screen radius at projection scale 1
 };
 
 // Builds the model from a pixel list; non-finite entries are left out.
