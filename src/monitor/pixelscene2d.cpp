@@ -5,7 +5,7 @@ void PixelScene2D::setPixels(const QVector<TPatch::LayoutPixel> &pixels)
     m_entries.clear();
     m_entries.reserve(pixels.size());
     m_bounds = QRectF();
-    m_groups.clear();
+    m_torvoverses.clear();
     bool first = true;
     for (const TPatch::LayoutPixel &p : pixels) {
         Entry e;
@@ -20,10 +20,9 @@ void PixelScene2D::setPixels(const QVector<TPatch::LayoutPixel> &pixels)
             m_bounds = first ? e.rect : m_bounds.united(e.rect);
             first = false;
         }
-        m_groups.insert(e.group);
+        m_torvoverses.insert(key(e.group, e.torvoverse));
         m_entries.append(e);
     }
-    m_hiddenGroups.clear();
     m_hiddenTorvoverses.clear();
     m_visibleZ = -1;
     m_highlightGroup = m_highlightTorvoverse = -1;
@@ -37,31 +36,30 @@ void PixelScene2D::clear()
 
 void PixelScene2D::setAllVisible(bool visible)
 {
-    m_hiddenTorvoverses.clear();
-    m_hiddenGroups = visible ? QSet<int>() : m_groups;
+    m_hiddenTorvoverses = visible ? QSet<quint64>() : m_torvoverses;
     rebuildVisible();
 }
 
 void PixelScene2D::setGroupVisible(int group, bool visible)
 {
-    if (visible) {
-        m_hiddenGroups.remove(group);
-        // Showing a group shows its torvoverses: the filter panel checks them all.
-        m_hiddenTorvoverses.removeIf([group](quint64 k) { return int(k >> 32) == group; });
-    } else {
-        m_hiddenGroups.insert(group);
+    // A group is its torvoverses: the filter panel checks or unchecks them all with it.
+    for (const quint64 k : std::as_const(m_torvoverses)) {
+        if (int(k >> 32) != group)
+            continue;
+        if (visible)
+            m_hiddenTorvoverses.remove(k);
+        else
+            m_hiddenTorvoverses.insert(k);
     }
     rebuildVisible();
 }
 
 void PixelScene2D::setTorvoverseVisible(int group, int torvoverse, bool visible)
 {
-    if (visible) {
+    if (visible)
         m_hiddenTorvoverses.remove(key(group, torvoverse));
-        m_hiddenGroups.remove(group);
-    } else {
+    else
         m_hiddenTorvoverses.insert(key(group, torvoverse));
-    }
     rebuildVisible();
 }
 
@@ -84,12 +82,12 @@ void PixelScene2D::rebuildVisible()
 {
     m_visible.clear();
     m_highlighted.clear();
-    const bool anyHidden = !m_hiddenGroups.isEmpty() || !m_hiddenTorvoverses.isEmpty();
+    const bool anyHidden = !m_hiddenTorvoverses.isEmpty();
     for (int i = 0; i < m_entries.size(); ++i) {
         const Entry &e = m_entries.at(i);
         if (!e.drawable || (m_visibleZ >= 0 && e.z != m_visibleZ))
             continue;
-        if (anyHidden && (m_hiddenGroups.contains(e.group) || m_hiddenTorvoverses.contains(key(e.group, e.torvoverse))))
+        if (anyHidden && m_hiddenTorvoverses.contains(key(e.group, e.torvoverse)))
             continue;
         m_visible.append(i);
         if (hasHighlight() && isHighlighted(e))

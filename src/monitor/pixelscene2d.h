@@ -65,9 +65,8 @@ private:
 
     QVector<Entry> m_entries;
     QRectF m_bounds;
-    QSet<int> m_hiddenGroups;
+    QSet<quint64> m_torvoverses; // every (group, torvoverse) present
     QSet<quint64> m_hiddenTorvoverses;
-    QSet<int> m_groups; // every group index present, for "hide all"
     int m_visibleZ = -1;
     int m_highlightGroup = -1;
     int m_highlightTorvoverse = -1;
