@@ -3,6 +3,7 @@
 #include "monitor/brushcycler.h"
 #include "monitor/camera3d.h"
 
+#include <QImage>
 #include <QRectF>
 #include <QRgb>
 #include <QVector>
@@ -55,7 +56,12 @@ public:
     void paint(QPainter &painter);
 
 private:
+    bool ensureBackground();
+    void paintBackground(QPainter &painter);
+    template <typename DrawSquare>
+    void forEachVisiblePoint(const QRectF &cull, DrawSquare draw);
     void paintPoints(QPainter &painter, double r, const QRectF &cull);
+    void paintPointsDirect(QPainter &painter, double r, const QRectF &cull);
     void paintKinetics(QPainter &painter);
     void paintAxes(QPainter &painter);
 
@@ -76,4 +82,6 @@ private:
     double m_sortedYaw = 0;
     bool m_orderValid = false;
     BrushCycler m_brush;
+    QImage m_background; // the gradient, drawn once per size
+    QImage m_layer;      // fast draw's picture, kept between frames
 };

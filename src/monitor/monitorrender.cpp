@@ -31,7 +31,8 @@ QImage render2D(const TPatch::PixelLayout &layout, const QVector<QRgb> &colours,
         return image;
     QPainter painter(&image);
     painter.setTransform(camera.transform());
-    paintPixels2D(painter, scene, colours, camera.visibleSceneRect(), Qt::white);
+    QImage layer;
+    paintPixels2D(painter, scene, colours, camera.visibleSceneRect(), Qt::white, &layer);
     return image;
 }
 

@@ -35,6 +35,7 @@ class TestMonitorRender : public QObject
 private slots:
     void litPixelAppearsInPlace();
     void highlightDarkensTheRest();
+    void layerAndPainterPathsAgree();
     void fastDrawDrawsSquares();
     void nearerPointsArePaintedLast();
     void pointsBehindTheCameraAreNotDrawn();
@@ -71,6 +72,28 @@ void TestMonitorRender::highlightDarkensTheRest()
     QCOMPARE(at(image, QPointF(25, 5)), kOrange); // bright
     QCOMPARE(at(image, QPointF(20, 5)), 0xFFFFFFFF); // outlined
     QCOMPARE(at(image, QPointF(0, 5)), QColor::fromRgb(kOrange).darker(260).rgb()); // no outline on the rest
+}
+
+void TestMonitorRender::layerAndPainterPathsAgree()
+{
+    // Rectangles and a turned pixel overlapping them, at a fractional zoom and offset.
+    PixelScene2D scene;
+    scene.setPixels({square(0, 0, 10), square(7, 3, 10), MonitorTestData::diamond(12, 8, 6), square(14, 9, 4)});
+    View2DCamera camera;
+    camera.viewport = QSize(97, 61);
+    camera.scale = 3.3;
+    camera.centre = QPointF(9.1, 7.7);
+    const QVector<QRgb> colours{kRed, kGreen, kOrange, 0xFF0000FF};
+    QImage pictures[2];
+    for (int direct = 0; direct < 2; ++direct) {
+        pictures[direct] = QImage(camera.viewport, QImage::Format_ARGB32_Premultiplied);
+        pictures[direct].fill(QColor(60, 60, 60));
+        QPainter painter(&pictures[direct]);
+        painter.setTransform(camera.transform());
+        QImage layer;
+        paintPixels2D(painter, scene, colours, camera.visibleSceneRect(), Qt::white, direct ? &layer : nullptr);
+    }
+    QCOMPARE(pictures[1], pictures[0]);
 }
 
 void TestMonitorRender::fastDrawDrawsSquares()

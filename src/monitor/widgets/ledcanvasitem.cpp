@@ -23,5 +23,5 @@ QRectF LedCanvasItem::boundingRect() const
 
 void LedCanvasItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *)
 {
-    paintPixels2D(*painter, m_scene, colours(), option->exposedRect, m_outline);
+    paintPixels2D(*painter, m_scene, colours(), option->exposedRect, m_outline, &m_layer);
 }

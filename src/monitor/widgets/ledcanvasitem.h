@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QGraphicsItem>
+#include <QImage>
 #include <QRgb>
 #include <QVector>
 
@@ -32,4 +33,5 @@ private:
     const QVector<QRgb> *m_colours = nullptr;
     const QVector<QRgb> m_none;
     QColor m_outline = Qt::white;
+    QImage m_layer; // the painting's scratch picture, kept between frames
 };
