@@ -1,5 +1,7 @@
 #include "cli/clicommon.h"
+#include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
+#include "cli/logcommand.h"
 #include "cli/patchcommand.h"
 
 #include <QCoreApplication>
@@ -18,6 +20,8 @@ struct Command
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
+    {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
+    {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
 };
 
 QString usage()
