@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <vector>
 
 namespace PacketLog {
@@ -135,10 +136,14 @@ qint64 toNs(quint64 ticks, quint64 unitsPerSecond, qint64 offsetSeconds)
 {
     if (unitsPerSecond == 0)
         return 0;
-    const quint64 seconds = ticks / unitsPerSecond;
+    // Damaged files can claim any time; keep the sum inside what 64-bit nanoseconds hold (years 1678 to 2262).
+    constexpr qint64 kMaxSeconds = 9'000'000'000LL;
+    const quint64 seconds = std::min<quint64>(ticks / unitsPerSecond, quint64(kMaxSeconds));
     const quint64 fraction = ticks % unitsPerSecond;
     const qint64 ns = qint64(double(fraction) * 1e9 / double(unitsPerSecond));
-    return (qint64(seconds) + offsetSeconds) * 1000000000LL + ns;
+    const qint64 total = std::clamp<qint64>(qint64(seconds) + std::clamp<qint64>(offsetSeconds, -kMaxSeconds, kMaxSeconds),
+                                            -kMaxSeconds, kMaxSeconds);
+    return total * 1000000000LL + ns;
 }
 
 } // namespace
