@@ -35,7 +35,8 @@ void PacketRecord::setDatagram(QByteArrayView bytes)
 {
     length = quint32(bytes.size());
     headLength = quint16(std::min<qsizetype>(bytes.size(), kHeadBytes));
-    std::memcpy(head, bytes.data(), headLength);
+    if (headLength > 0)
+        std::memcpy(head, bytes.data(), headLength);
     if (headLength < kHeadBytes)
         std::memset(head + headLength, 0, size_t(kHeadBytes - headLength));
     flags = 0;
