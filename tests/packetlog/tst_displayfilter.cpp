@@ -188,6 +188,25 @@ private slots:
         QVERIFY(!garbage.ok());
     }
 
+    // Random text from the characters that matter: always a tree or a message, never a crash.
+    void randomTextNeverCrashes()
+    {
+        static const char kPieces[][10] = {"(", ")", "!", "&&", "||", "==", "!=", ">", "<=", "\"", " ", "not ",
+                                           "and ", "or ", "ip.src", "frame.len", "10.0.0.1", "0x", "artdmx", "a"};
+        QRandomGenerator rng(6454);
+        for (int round = 0; round < 3000; ++round) {
+            QString text;
+            const int n = int(rng.bounded(40));
+            for (int i = 0; i < n; ++i)
+                text += QLatin1StringView(kPieces[rng.bounded(int(sizeof kPieces / sizeof kPieces[0]))]);
+            const FilterCompileResult r = compileFilter(text);
+            QVERIFY(r.ok() == r.error.isEmpty());
+            QVERIFY(!r.ok() || r.root || text.trimmed().isEmpty());
+            if (r.root)
+                (void)r.root->match(PacketRecord());
+        }
+    }
+
     // Field semantics over a fixed set of records.
     void selection_data()
     {
