@@ -174,6 +174,33 @@ private slots:
         }
     }
 
+    // A big-endian section from another writer: microsecond times (the default), a time offset, raw IPv4,
+    // an enhanced and a simple packet block, and a block type we do not know in between.
+    void bigEndianPcapng()
+    {
+        const QByteArray ip = ipUdp(makeArtDmx(0x0011, 2, 8, 0));
+        const auto block = [](quint32 type, const QByteArray &body) {
+            const quint32 total = quint32(12 + body.size());
+            return be32(type) + be32(total) + body + be32(total);
+        };
+        const QByteArray padded = ip + QByteArray((4 - ip.size() % 4) % 4, '\0');
+        const QByteArray file =
+            block(0x0A0D0D0A, be32(0x1A2B3C4D) + be16(1) + be16(0) + QByteArray(8, char(0xFF)))
+            + block(1, be16(101) + be16(0) + be32(0) + be16(14) + be16(8) + be32(0) + be32(100) + be32(0)) // if_tsoffset 100 s
+            + block(0x0BAD, QByteArray(8, 'x'))
+            + block(6, be32(0) + be32(0) + be32(3000001) + be32(quint32(ip.size())) + be32(quint32(ip.size())) + padded)
+            + block(3, be32(quint32(ip.size())) + padded);
+        const LogLoadResult r = readPcapng(file);
+        QVERIFY(r.ok);
+        QVERIFY(r.warnings.isEmpty());
+        QCOMPARE(int(r.records.size()), 2);
+        QCOMPARE(r.records[0].timeNs, 103000001000LL); // 3.000001 s + 100 s
+        QCOMPARE(r.records[0].portAddress, 0x0011);
+        QCOMPARE(r.records[0].source, RecordSource::Capture);
+        QCOMPARE(r.records[1].length, 26u);
+        QCOMPARE(r.records[1].timeNs, 100000000000LL); // simple packets carry no time
+    }
+
     void damagedPcapng()
     {
         QBuffer buffer;
