@@ -2,6 +2,7 @@
 
 #include "cli/clicommon.h"
 #include "packetlog/displayfilter.h"
+#include "packetlog/filterhelp.h"
 
 using namespace PacketLog;
 
@@ -39,23 +40,26 @@ QJsonValue nodeJson(const FilterNode *node)
 int runFilterCommand(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Compiles a packet log display filter and prints its tree, every group in parentheses, or its error.\n"
-        "Several arguments are joined with blanks, so the expression need not be quoted as one.\n"
-        "\n"
-        "Fields: ip.src ip.dst ip.addr (source or destination) udp.srcport udp.dstport udp.port frame.len\n"
-        "artnet.opcode (number, 0x.., or artdmx artpoll artpollreply kel) artnet.universe talu.error\n"
-        "talu.outcome (ok failed notsent partial) talu.reason (none offline transferclosed testmode nosocket\n"
-        "invalidtarget) talu.dir (in out) talu.source (talu capture); mox.* names work as well.\n"
-        "Connectives:  &&  and   ||  or   !  not   ( )\n"
-        "Operators:    ==  !=  >  <  >=  <=  contains  (eq ne)\n"
-        "A word typed without a field name is searched in the Info column. Values may be in double quotes.\n"
-        "\"!\" and \"(\" nest at most 64 deep.\n"
-        "\n"
-        "With --json, one object: ok (bool), error (text or null), tree (the one-line form, or null when there\n"
-        "is no filter or an error), root (nested objects: node \"and\"/\"or\" with left and right, \"not\" with\n"
-        "child, \"contains\" with word, \"compare\" with field, known (bool: a field we have), operator, value).\n"
-        "Exit codes: 0 compiled (an empty expression is no filter), 1 the expression has an error, 2 usage error."));
+    QString examples;
+    for (const FilterHelpExample &e : filterHelpExamples(false))
+        examples += QStringLiteral("  ") + (e.example.leftJustified(26) + e.note).trimmed() + QLatin1Char('\n');
+    parser.setApplicationDescription(
+        QStringLiteral("Compiles a packet log display filter and prints its tree, every group in parentheses, or its error.\n"
+                       "Several arguments are joined with blanks, so the expression need not be quoted as one.\n"
+                       "\n"
+                       "Examples:\n")
+        + examples + filterHelpLines(false).join(QLatin1Char('\n'))
+        + QStringLiteral("\n"
+                         "Values may be written in double quotes; \"eq\" and \"ne\" stand for == and !=.\n"
+                         "Text fields compare ignoring case; ip.addr and udp.port hold when either side does.\n"
+                         "\"!\" and \"(\" nest at most 64 deep.\n"
+                         "\n"
+                         "With --json, one object: ok (bool), error (text or null), tree (the one-line form, or null when\n"
+                         "there is no filter or an error), root (nested objects: node \"and\"/\"or\" with left and right,\n"
+                         "\"not\" with child, \"contains\" with word, \"compare\" with field, known (bool: a field we have),\n"
+                         "operator, value).\n"
+                         "Exit codes: 0 compiled (an empty expression is no filter), 1 the expression has an error,\n"
+                         "2 usage error."));
     parser.addPositionalArgument(QStringLiteral("expr"), QStringLiteral("The filter expression."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOption(json);

@@ -1,4 +1,5 @@
 #include "packetlog/displayfilter.h"
+#include "packetlog/filterhelp.h"
 #include "packetlog/filtertokenizer.h"
 
 #include <QtTest>
@@ -286,6 +287,21 @@ private slots:
         OrNode o(std::make_unique<Counting>(true, &calls), std::make_unique<Counting>(false, &calls));
         QVERIFY(o.match(r));
         QCOMPARE(calls, 1);
+    }
+
+    // Every example the help shows must compile to a comparison of a field we have.
+    void helpExamplesCompile()
+    {
+        const QVector<FilterHelpExample> examples = filterHelpExamples(false);
+        QCOMPARE(examples.size(), 14);
+        for (const FilterHelpExample &e : examples) {
+            const FilterCompileResult r = compileFilter(e.example);
+            QVERIFY2(r.ok(), qPrintable(e.example));
+            const auto *compare = dynamic_cast<const CompareNode *>(r.root.get());
+            QVERIFY2(compare && compare->resolvedField() != CompareNode::Field::Unknown, qPrintable(e.example));
+        }
+        QCOMPARE(examples.at(2).note, QStringLiteral("source or destination"));
+        QCOMPARE(filterHelpLines(false).constFirst(), QStringLiteral("Connectives:  &&  and   ||  or   !  not   ( )"));
     }
 
     void fieldEquivalence()
