@@ -1,5 +1,6 @@
 #pragma once
 
+#include "packetlog/comparenode.h"
 #include "packetlog/filternode.h"
 #include "packetlog/logmessage.h"
 
