@@ -124,6 +124,14 @@ private slots:
         QFile file(csv);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll().count('\n'), 4); // header and three sends
+        // pcapng -> filtered .tlog -> the same lines as filtering the original.
+        const QString tlog = m_dir.filePath(QStringLiteral("dmx.tlog"));
+        const QString dmx = QStringLiteral("artnet.opcode == artdmx");
+        QCOMPARE(talu({QStringLiteral("log"), capture, QStringLiteral("--filter"), dmx, QStringLiteral("--export"),
+                       QStringLiteral("tlog"), QStringLiteral("-o"), tlog}).exitCode, 0);
+        const Run again = talu({QStringLiteral("log"), tlog});
+        QCOMPARE(again.out.count('\n'), 12);
+        QCOMPARE(again.out, talu({QStringLiteral("log"), m_sample, QStringLiteral("--filter"), dmx}).out);
     }
 
     void refusals_data()
