@@ -48,9 +48,10 @@ struct JournalCounters
 // ring of recent records and, while a session file is open, spooled to it.
 //
 // The ring holds the most recent capacity records (65,536 by default, about
-// 19 MB): at the 7,000 packets a second of a busy 40-universe show that is
-// about nine seconds of traffic at full rate, and much longer once repeated
-// frames are collapsed. Hours of traffic never grow it; the file has the rest.
+// 19 MB): at 7,000 packets a second (160 universes at 44 Hz) that is over nine
+// seconds of traffic at full rate, and much longer once repeated frames are
+// collapsed. Hours of traffic never grow it; the session file has the rest.
+// A view polls counters().appended (on its repaint timer) to see new records.
 //
 // An identical ArtDmx (same sender, receiver, universe and bytes apart from
 // the sequence number) that repeats within 250 ms of the last one kept for its
