@@ -132,6 +132,7 @@ private:
     qint64 m_collapsed = 0;
     qint64 m_spoolDropped = 0;
     std::unordered_map<StreamKey, LastFrame, StreamKeyHash> m_lastFrames;
+    PacketRecord m_scratch;
 
     std::unique_ptr<SpoolQueue> m_queue;
     std::thread m_spoolThread;
