@@ -2,6 +2,8 @@
 
 #include "cli/clicommon.h"
 #include "cli/demopatch.h"
+#include "cli/samplelog.h"
+#include "packetlog/tlogfile.h"
 #include "patch/tpatchwriter.h"
 
 #include <QSaveFile>
@@ -28,6 +30,7 @@ int runGenerateCommand(const QStringList &arguments)
         "\n"
         "Kinds:\n"
         "  demo-patch OUT   the bundled demo installation as .tpatch (examples/demo.tpatch)\n"
+        "  sample-log OUT   a short node session as a packet log (.tlog): polls, replies, ArtDmx, failed sends\n"
         "Exit codes: 0 written, 1 the file could not be written, 2 usage error."));
     parser.addPositionalArgument(QStringLiteral("kind"), QStringLiteral("What to generate."));
     parser.addPositionalArgument(QStringLiteral("out"), QStringLiteral("Output file."));
@@ -37,8 +40,12 @@ int runGenerateCommand(const QStringList &arguments)
     if (helpShown)
         return ExitOk;
     const QStringList args = parser.positionalArguments();
+    if (args.size() == 2 && args.at(0) == QLatin1StringView("sample-log")) {
+        const std::vector<PacketLog::PacketRecord> records = makeSampleLog();
+        return writeFile(args.at(1), PacketLog::writeTlog(records, records.front().timeNs)) ? ExitOk : ExitRefused;
+    }
     if (args.size() != 2 || args.at(0) != QLatin1StringView("demo-patch")) {
-        printErr(QStringLiteral("talu-cli generate: give a kind (demo-patch) and an output file."));
+        printErr(QStringLiteral("talu-cli generate: give a kind (demo-patch, sample-log) and an output file."));
         return ExitUsage;
     }
     return writeFile(args.at(1), TPatch::writeTPatch(makeDemoPatch())) ? ExitOk : ExitRefused;

@@ -1,6 +1,8 @@
 #include "cli/clicommon.h"
 #include "cli/colourcommand.h"
+#include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
+#include "cli/logcommand.h"
 #include "cli/patchcommand.h"
 
 #include <QCoreApplication>
@@ -20,6 +22,8 @@ const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"colour", "evaluate one pixel's colour from DMX bytes, as the monitor does", runColourCommand},
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
+    {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
+    {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
 };
 
 QString usage()
