@@ -1,5 +1,6 @@
 #include "cli/clicommon.h"
 #include "cli/generatecommand.h"
+#include "cli/listencommand.h"
 #include "cli/patchcommand.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,7 @@ struct Command
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
+    {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
 };
 
 QString usage()
