@@ -19,6 +19,7 @@ const QHostAddress kLoopback(QHostAddress::LocalHost);
 
 bool waitForListening(QProcess &process, QByteArray *stderrText)
 {
+    process.setReadChannel(QProcess::StandardError);
     QElapsedTimer t;
     t.start();
     while (!stderrText->contains("Listening on") && t.elapsed() < 10000) {
