@@ -1,6 +1,9 @@
 #include "artnet/artnetnode.h"
 
+#include "artnet/linuxudpdatagramsocket.h"
 #include "artnet/udpdatagramsocket.h"
+
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -11,10 +14,16 @@ constexpr qint64 kRateWindowNs = 999'999'999;
 
 } // namespace
 
-ArtNetNode::ArtNetNode(QObject *parent)
-    : ArtNetNode([] { return std::make_unique<UdpDatagramSocket>(); }, nullptr, parent)
+std::unique_ptr<DatagramSocket> ArtNetNode::makeSystemSocket()
 {
+#ifdef Q_OS_LINUX
+    return std::make_unique<LinuxUdpDatagramSocket>();
+#else
+    return std::make_unique<UdpDatagramSocket>();
+#endif
 }
+
+ArtNetNode::ArtNetNode(QObject *parent) : ArtNetNode(&ArtNetNode::makeSystemSocket, nullptr, parent) {}
 
 ArtNetNode::ArtNetNode(SocketFactory socketFactory, const MonotonicClock *clock, QObject *parent)
     : QObject(parent), m_socketFactory(std::move(socketFactory)), m_clock(clock ? clock : &m_steadyClock),
@@ -59,6 +68,10 @@ bool ArtNetNode::start(const QHostAddress &address, quint16 port)
 void ArtNetNode::stop()
 {
     m_announceTimer.stop();
+    if (m_inReadyRead && m_socket) {
+        m_retiredSocket = std::move(m_socket);
+        QTimer::singleShot(0, this, [this] { m_retiredSocket.reset(); });
+    }
     m_socket.reset();
     m_bindAddress = QHostAddress();
     emit statusChanged();
@@ -168,6 +181,7 @@ void ArtNetNode::onReadyRead()
 {
     QHostAddress sender;
     quint16 senderPort = 0;
+    const QScopedValueRollback<bool> inReadyRead(m_inReadyRead, true);
     // Drain everything queued: one notification may stand for thousands of
     // datagrams, and each wake-up of the event loop costs more than a read.
     while (m_socket && m_socket->hasPendingDatagrams()) {

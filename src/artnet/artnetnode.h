@@ -36,6 +36,9 @@ public:
     // hold them while the GUI thread paints.
     static constexpr int kReceiveBufferBytes = 1 << 20;
 
+    // The platform's UDP socket: batched receives on Linux, QUdpSocket elsewhere.
+    static std::unique_ptr<DatagramSocket> makeSystemSocket();
+
     // Without arguments the node uses real UDP sockets and the steady clock.
     // A clock passed in must outlive the node.
     explicit ArtNetNode(QObject *parent = nullptr);
@@ -93,6 +96,10 @@ private:
     const MonotonicClock *m_clock;
 
     std::unique_ptr<DatagramSocket> m_socket;
+    // A socket stopped from a slot during its own readyRead lives until the
+    // event loop comes back: its notification is still on the stack.
+    std::unique_ptr<DatagramSocket> m_retiredSocket;
+    bool m_inReadyRead = false;
     QTimer m_announceTimer;
     PacketJournal *m_journal = nullptr;
     QHostAddress m_bindAddress;

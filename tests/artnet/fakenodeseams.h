@@ -70,7 +70,9 @@ public:
             pending.push_back({d, from, fromPort});
         if (readyRead)
             readyRead();
+        ++notifications; // touches the socket after the handler, as Qt does
     }
+    int notifications = 0;
 
     std::function<void()> readyRead;
 };

@@ -52,6 +52,7 @@ private slots:
     void rateWindowAndAges();
     void stopKeepsStatisticsStartClearsThem();
     void journalSeesEveryDatagram();
+    void stopFromASlotMidBatch();
 
 private:
     bool start(const QHostAddress &address = QHostAddress(), quint16 port = kDefaultPort);
@@ -357,6 +358,22 @@ void TestArtNetNode::journalSeesEveryDatagram()
     journal.entries.clear();
     m_socket->deliver({buildPoll()}, kController);
     QVERIFY(journal.entries.isEmpty());
+}
+
+void TestArtNetNode::stopFromASlotMidBatch()
+{
+    QVERIFY(start());
+    bool socketGone = false;
+    m_socket->destroyed = &socketGone;
+    QSignalSpy received(m_node.get(), &ArtNetNode::dmxReceived);
+    connect(m_node.get(), &ArtNetNode::dmxReceived, m_node.get(), [this] { m_node->stop(); });
+    // The fake keeps using itself after the handler returns, as a real
+    // socket's notification does; the sanitizers catch a premature delete.
+    m_socket->deliver({dmx(1, 0), dmx(2, 0), dmx(3, 0)}, kController);
+    QCOMPARE(received.count(), 1);
+    QVERIFY(!m_node->isRunning());
+    QVERIFY(!socketGone);
+    QTRY_VERIFY(socketGone);
 }
 
 QTEST_GUILESS_MAIN(TestArtNetNode)
