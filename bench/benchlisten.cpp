@@ -5,6 +5,9 @@
 //
 // Run inside the private namespace only:
 //   scripts/netns build/bench/bench/bench_listen [--seconds 10] [--rates 50000,100000,...]
+//                                               [--listen-args "--record /tmp/b.tpx --fps 40"]
+// Extra listen arguments are passed through; when the report carries a
+// "records" count (recording on) it must equal the packets sent as well.
 //
 // CPU is the child's user + system time (getrusage of reaped children), less
 // an idle run of the same length, divided by the packets it counted. The
@@ -39,15 +42,19 @@ struct Run
     quint64 sequenceErrors = 0;
     double floodSeconds = 0;
     double cpuSeconds = 0;
+    qint64 records = -1; // -1: the listener did not record
 };
 
-Run runOnce(const QString &cli, double seconds, double rate, int universes)
+Run runOnce(const QString &cli, const QStringList &extraArgs, double seconds, double rate, int universes)
 {
     Run run;
     const double cpuBefore = childCpuSeconds();
     QProcess listen;
-    listen.start(cli, {QStringLiteral("listen"), QStringLiteral("--json"), QStringLiteral("--address"),
-                       QStringLiteral("127.0.0.1"), QStringLiteral("--seconds"), QString::number(seconds + 2)});
+    const QStringList args = QStringList{QStringLiteral("listen"), QStringLiteral("--json"), QStringLiteral("--address"),
+                                         QStringLiteral("127.0.0.1"), QStringLiteral("--seconds"),
+                                         QString::number(seconds + 2)} +
+                             extraArgs;
+    listen.start(cli, args);
     listen.setReadChannel(QProcess::StandardError); // the "Listening on" line comes there
     QByteArray err;
     while (!err.contains("Listening on") && listen.waitForReadyRead(5000))
@@ -84,6 +91,8 @@ Run runOnce(const QString &cli, double seconds, double rate, int universes)
     const QJsonObject report = QJsonDocument::fromJson(out).object();
     run.received = quint64(report.value(QStringLiteral("dmxPackets")).toDouble());
     run.sequenceErrors = quint64(report.value(QStringLiteral("sequenceErrors")).toDouble());
+    if (report.contains(QStringLiteral("records")))
+        run.records = qint64(report.value(QStringLiteral("records")).toDouble());
     run.ok = !report.isEmpty();
     return run;
 }
@@ -103,7 +112,10 @@ int main(int argc, char *argv[])
                                    QStringLiteral("list"), QStringLiteral("50000,100000,150000,200000"));
     const QCommandLineOption universes(QStringLiteral("universes"), QStringLiteral("Universes in turn (2048)."),
                                        QStringLiteral("n"), QStringLiteral("2048"));
-    parser.addOptions({cli, seconds, rates, universes});
+    const QCommandLineOption listenArgs(QStringLiteral("listen-args"),
+                                        QStringLiteral("Extra arguments for talu-cli listen, blank-separated."),
+                                        QStringLiteral("args"));
+    parser.addOptions({cli, seconds, rates, universes, listenArgs});
     parser.process(app);
 
     QString why;
@@ -113,8 +125,9 @@ int main(int argc, char *argv[])
     }
     const double s = parser.value(seconds).toDouble();
     const int u = parser.value(universes).toInt();
+    const QStringList extra = parser.value(listenArgs).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 
-    const Run idle = runOnce(parser.value(cli), s, 0, u);
+    const Run idle = runOnce(parser.value(cli), extra, s, 0, u);
     if (!idle.ok)
         return 1;
     std::printf("idle listener, %.0f s: %.3f s CPU (subtracted below)\n", s + 2, idle.cpuSeconds);
@@ -124,7 +137,7 @@ int main(int argc, char *argv[])
     double bestCpuUs = 0;
     for (const QString &r : parser.value(rates).split(QLatin1Char(','))) {
         const double rate = r.toDouble();
-        const Run run = runOnce(parser.value(cli), s, rate, u);
+        const Run run = runOnce(parser.value(cli), extra, s, rate, u);
         if (!run.ok)
             return 1;
         const quint64 lost = run.sent > run.received ? run.sent - run.received : 0;
@@ -134,7 +147,10 @@ int main(int argc, char *argv[])
                     static_cast<unsigned long long>(lost), static_cast<unsigned long long>(run.sequenceErrors), cpuUs,
                     double(run.sent) / run.floodSeconds);
         std::fflush(stdout);
-        if (lost == 0 && run.sent == run.received && double(run.sent) / run.floodSeconds > bestRate) {
+        if (run.records >= 0)
+            std::printf("%10s records in the file: %lld\n", "", static_cast<long long>(run.records));
+        const bool recordsOk = run.records < 0 || quint64(run.records) == run.sent;
+        if (lost == 0 && run.sent == run.received && recordsOk && double(run.sent) / run.floodSeconds > bestRate) {
             bestRate = double(run.sent) / run.floodSeconds;
             bestCpuUs = cpuUs;
         }

@@ -5,6 +5,10 @@
 #ifdef Q_OS_WIN
 #include <winsock2.h>
 #include <mstcpip.h>
+#ifndef SIO_UDP_CONNRESET
+// Older MinGW headers lack it; the value is fixed by Windows Sockets.
+#define SIO_UDP_CONNRESET _WSAIOW(IOC_VENDOR, 12)
+#endif
 #endif
 
 UdpDatagramSocket::UdpDatagramSocket()
