@@ -53,6 +53,7 @@ private slots:
     void stopKeepsStatisticsStartClearsThem();
     void journalSeesEveryDatagram();
     void stopFromASlotMidBatch();
+    void pollFloodIsAnsweredEveryTime();
 
 private:
     bool start(const QHostAddress &address = QHostAddress(), quint16 port = kDefaultPort);
@@ -374,6 +375,18 @@ void TestArtNetNode::stopFromASlotMidBatch()
     QVERIFY(!m_node->isRunning());
     QVERIFY(!socketGone);
     QTRY_VERIFY(socketGone);
+}
+
+void TestArtNetNode::pollFloodIsAnsweredEveryTime()
+{
+    m_node->setUniverses({1, 2, 3});
+    QVERIFY(start());
+    QSignalSpy answered(m_node.get(), &ArtNetNode::pollAnswered);
+    m_socket->deliver(QVector<QByteArray>(5000, buildPoll()), kController);
+    QCOMPARE(m_node->stats().artPolls, quint64(5000));
+    QCOMPARE(answered.count(), 5000);
+    QCOMPARE(m_socket->sent.size(), 5000 * 3 * 2);
+    QCOMPARE(m_node->stats().ignored, quint64(0));
 }
 
 QTEST_GUILESS_MAIN(TestArtNetNode)
