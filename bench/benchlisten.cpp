@@ -17,6 +17,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -134,6 +135,10 @@ int main(int argc, char *argv[])
     const int u = parser.value(universes).toInt();
     const QStringList extra = parser.value(listenArgs).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 
+    // The figures depend on what else the two cores run; say so beside them.
+    QFile loadavg(QStringLiteral("/proc/loadavg"));
+    if (loadavg.open(QIODevice::ReadOnly))
+        std::printf("load average before the run: %s", loadavg.readLine().constData());
     const Run idle = runOnce(parser.value(cli), extra, s, 0, u);
     if (!idle.ok)
         return 1;
