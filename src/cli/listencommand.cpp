@@ -105,7 +105,8 @@ int runListenCommand(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral(
         "Runs the Art-Net node without a display: answers ArtPoll with one ArtPollReply per advertised\n"
         "universe, announces itself every 2 s to 255.255.255.255, receives ArtDmx and KEL DMX and counts them.\n"
-        "Runs for --seconds, or until Ctrl-C / SIGTERM, then stops cleanly.\n"
+        "Runs for --seconds, or until Ctrl-C / SIGTERM, then stops cleanly. It broadcasts: on a development\n"
+        "machine run it inside scripts/netns, never on a show network by accident.\n"
         "\n"
         "Once bound it prints \"Listening on ADDRESS:PORT, advertising N universe(s).\" to standard error.\n"
         "Without --json, on a terminal, a status line (packets, pkt/s, polls, sequence errors) is refreshed\n"
