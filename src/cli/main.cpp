@@ -3,6 +3,7 @@
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
 #include "cli/logcommand.h"
+#include "cli/listencommand.h"
 #include "cli/patchcommand.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,7 @@ const Command kCommands[] = {
     {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
     {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
+    {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
 };
 
 QString usage()
