@@ -316,9 +316,15 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
     QVector<QPointF> points = elmLedPositions(raw.points, int(leds), curve, loop, &angles);
     const double rotation = doubleAttribute(g, "rotation");
     if (rotation != 0) {
-        QRectF box(raw.points.first(), QSizeF(0, 0));
-        for (const QPointF &p : raw.points)
-            box = box.united(QRectF(p, QSizeF(0, 0)));
+        // Min and max by hand: QRectF::united drops the empty rectangles single points make.
+        double left = raw.points.first().x(), right = left, top = raw.points.first().y(), bottom = top;
+        for (const QPointF &p : raw.points) {
+            left = std::min(left, p.x());
+            right = std::max(right, p.x());
+            top = std::min(top, p.y());
+            bottom = std::max(bottom, p.y());
+        }
+        const QRectF box(QPointF(left, top), QPointF(right, bottom));
         const QTransform turn =
             QTransform().translate(box.center().x(), box.center().y()).rotate(rotation).translate(-box.center().x(), -box.center().y());
         for (QPointF &p : points)
