@@ -56,7 +56,7 @@ QByteArray writeMadrixXml(const MadrixSample &sample)
 {
     QByteArray out;
     QXmlStreamWriter xml(&out);
-    xml.setAutoFormatting(true);
+    xml.setAutoFormatting(sample.indented);
     xml.writeStartDocument();
     xml.writeStartElement(QStringLiteral("madrix_patch"));
     if (!sample.version.isEmpty())

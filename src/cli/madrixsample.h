@@ -39,6 +39,8 @@ struct MadrixSample
     QStringList extraElements;                    // further empty header elements, e.g. "save_date"
     int fixtureGroups = 0;                        // > 0 writes a <fixture_group_list>
     bool withFixtureList = true;
+    bool indented = false; // one element per line, indented; otherwise one long line
+
     QVector<MadrixSampleFixture> fixtures;
 };
 
