@@ -1,6 +1,7 @@
 #include "patch/elmreader.h"
 
 #include "patch/elmgeometry.h"
+#include "patch/orderednames.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,6 +14,8 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace TPatch {
 
@@ -42,23 +45,17 @@ struct RawStage
 
 struct Findings
 {
-    QStringList sixteenBitTypes;
-    QStringList ignoredChannels;
+    OrderedNames sixteenBitTypes;
+    OrderedNames ignoredChannels;
     qint64 splitPixels = 0;
     qint64 past512 = 0;
     qint64 otherProtocol = 0;
-    QStringList protocols;
+    OrderedNames protocols;
     qint64 unknownType = 0;
-    QStringList unknownTypes;
+    OrderedNames unknownTypes;
     qint64 badUniverse = 0;
     qint64 incomplete = 0;
     qint64 sixteenBit = 0;
-
-    static void note(QStringList &list, const QString &entry)
-    {
-        if (!list.contains(entry))
-            list.append(entry);
-    }
 };
 
 struct LedType
@@ -112,7 +109,10 @@ double doubleAttribute(const QXmlStreamAttributes &a, const char *name)
 {
     bool ok = false;
     const double v = a.value(QLatin1StringView(name)).trimmed().toDouble(&ok);
-    return ok && std::isfinite(v) ? v : 0.0;
+    // Stage coordinates are screen pixels; anything beyond a million is damage, and keeping it finite keeps
+    // the spacing arithmetic finite.
+    constexpr double kLimit = 1e6;
+    return ok && std::isfinite(v) ? std::clamp(v, -kLimit, kLimit) : 0.0;
 }
 
 QVector<qint32> parseIp(QStringView text)
@@ -252,14 +252,14 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
     if (!protocol.isEmpty() && protocol.compare(QLatin1StringView("ArtNet"), Qt::CaseInsensitive) != 0
         && protocol.compare(QLatin1StringView("Art-Net"), Qt::CaseInsensitive) != 0) {
         ++findings.otherProtocol;
-        Findings::note(findings.protocols, protocol);
+        findings.protocols.add(protocol);
         return;
     }
     const QString typeText = a.value(QLatin1StringView("ledType")).trimmed().toString();
     const LedType type = parseLedType(typeText.isEmpty() ? QStringLiteral("RGB") : typeText);
     if (!type.known) {
         ++findings.unknownType;
-        Findings::note(findings.unknownTypes, typeText);
+        findings.unknownTypes.add(typeText);
         return;
     }
     qint64 leds = 0, startUniverse = 0, startAddress = 0, breakAfter = 0;
@@ -304,10 +304,10 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
     findings.past512 += past ? 1 : 0;
     if (type.sixteenBit) {
         ++findings.sixteenBit;
-        Findings::note(findings.sixteenBitTypes, typeText.toUpper());
+        findings.sixteenBitTypes.add(typeText.toUpper());
     }
     if (type.hasAmber)
-        Findings::note(findings.ignoredChannels, QStringLiteral("A (%1)").arg(typeText.toUpper()));
+        findings.ignoredChannels.add(QStringLiteral("A (%1)").arg(typeText.toUpper()));
 
     // Where ELM draws the LEDs, turned about the centre of the control points.
     const bool curve = g.value(QLatin1StringView("type")).compare(QLatin1StringView("curve"), Qt::CaseInsensitive) == 0;
@@ -397,11 +397,11 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
     if (f.sixteenBit > 0)
         warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use 16-bit LED types (%2); the "
                                                                  "monitor shows the high byte of each color only."),
-                                     {f.sixteenBit, f.sixteenBitTypes.join(QStringLiteral(", "))}));
+                                     {f.sixteenBit, f.sixteenBitTypes.joined()}));
     if (!f.ignoredChannels.isEmpty())
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-                         {f.ignoredChannels.join(QStringLiteral(", "))}));
+                         {f.ignoredChannels.joined()}));
     if (f.splitPixels > 0)
         warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have a pixel split across a universe "
                                                                  "boundary; its channels in the next universe are not "
@@ -414,11 +414,11 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
     if (f.otherProtocol > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) output %2 rather than Art-Net and were skipped."),
-            {f.otherProtocol, f.protocols.join(QStringLiteral(", "))}));
+            {f.otherProtocol, f.protocols.joined()}));
     if (f.unknownType > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use LED types the tester does not know (%2) and were skipped."),
-            {f.unknownType, f.unknownTypes.join(QStringLiteral(", "))}));
+            {f.unknownType, f.unknownTypes.joined()}));
     if (f.badUniverse > 0)
         warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
                                                                  "Art-Net Port-Address and were skipped."),

@@ -1,6 +1,7 @@
 #include "patch/madrixreader.h"
 
 #include "patch/gzipinflate.h"
+#include "patch/orderednames.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -52,22 +53,16 @@ struct RawFixture
 // What mapping counts for the warnings, in the order they are reported.
 struct Findings
 {
-    QStringList unsupported; // element names and odd values, first seen first
+    OrderedNames unsupported; // element names and odd values, first seen first
     qint64 groups = 0;
     qint64 rotatedMultiPixel = 0;
-    QStringList ignoredChannels;
+    OrderedNames ignoredChannels;
     qint64 widePixels = 0;
     qint64 past512 = 0;
     qint64 dvi = 0;
     qint64 noColour = 0;
     qint64 badUniverse = 0;
     qint64 incomplete = 0;
-
-    void note(QStringList &list, const QString &entry)
-    {
-        if (!list.contains(entry))
-            list.append(entry);
-    }
 };
 
 struct MappedChannel
@@ -108,7 +103,7 @@ quint8 roleOf(const RawChannel &channel, Findings &findings)
         return RoleWarmWhite;
     if (lower.contains(QLatin1StringView("cold")) || lower.contains(QLatin1StringView("cool")))
         return RoleCoolWhite;
-    findings.note(findings.ignoredChannels, QStringLiteral("%1 (%2)").arg(channel.name, channel.colorChannel.trimmed()));
+    findings.ignoredChannels.add(QStringLiteral("%1 (%2)").arg(channel.name, channel.colorChannel.trimmed()));
     return RoleNone;
 }
 
@@ -175,8 +170,8 @@ void Mapper::map(const RawFixture &raw)
             ++findings.incomplete;
         return;
     }
-    const quint32 portAddress = quint32(universe - 1);
-    if (universe < 1 || portAddress >= kPortAddressCount) {
+    // Taken as unsigned, universe 0 (and anything negative) wraps far past the last Port-Address.
+    if (universe < 1 || universe - 1 >= qint64(kPortAddressCount)) {
         ++findings.badUniverse;
         return;
     }
@@ -198,7 +193,7 @@ void Mapper::map(const RawFixture &raw)
 
     qint64 rotation = 0;
     if (!raw.rotation.trimmed().isEmpty() && !toInteger(raw.rotation, &rotation)) {
-        findings.note(findings.unsupported, QStringLiteral("fixture_settings/rotation=%1").arg(raw.rotation.trimmed()));
+        findings.unsupported.add(QStringLiteral("fixture_settings/rotation=%1").arg(raw.rotation.trimmed()));
         rotation = 0;
     }
     const int quarterTurns = int(rotation & 3);
@@ -208,6 +203,7 @@ void Mapper::map(const RawFixture &raw)
     const int gridW = turned ? h : w;
     const int gridH = turned ? w : h;
 
+    const quint32 portAddress = quint32(universe - 1);
     PatchFixture fixture;
     fixture.fixtureName = !raw.displayNameUser.trimmed().isEmpty() ? raw.displayNameUser
                           : !raw.displayName.trimmed().isEmpty()   ? raw.displayName
@@ -397,7 +393,7 @@ ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
         const auto unsupported = std::find_if(std::begin(kUnsupported), std::end(kUnsupported),
                                               [&xml](const char *name) { return isNamed(xml, name); });
         if (unsupported != std::end(kUnsupported))
-            mapper.findings.note(mapper.findings.unsupported, QString::fromLatin1(*unsupported));
+            mapper.findings.unsupported.add(QString::fromLatin1(*unsupported));
         if (isNamed(xml, "fixture_list")) {
             sawList = true;
             stack.append(Tag::FixtureList);
@@ -455,7 +451,7 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
     if (!f.unsupported.isEmpty())
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "Some MADRIX fields are not supported yet and were ignored: %1"),
-            {f.unsupported.join(QStringLiteral(", "))}));
+            {f.unsupported.joined()}));
     if (f.groups > 0)
         warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 MADRIX fixture group(s) were found, but groups "
                                                                  "are not imported yet; all fixtures were placed in "
@@ -469,7 +465,7 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
     if (!f.ignoredChannels.isEmpty())
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-                         {f.ignoredChannels.join(QStringLiteral(", "))}));
+                         {f.ignoredChannels.joined()}));
     if (f.widePixels > 0)
         warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have pixels whose color channels span "
                                                                  "more than 6 DMX channels; only the first 6 are "

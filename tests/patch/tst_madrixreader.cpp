@@ -124,6 +124,8 @@ void TestMadrixReader::mapping_data()
     QTest::newRow("universe 32768 is 32767") << f << true << 32767 << "123000" << 0 << "0,0" << QStringList();
     f.universe = QStringLiteral("32769");
     QTest::newRow("universe 32769") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    f.universe = QStringLiteral("4294967297");
+    QTest::newRow("universe wrapping 32 bits") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
     f.universe = QStringLiteral("0");
     QTest::newRow("universe 0") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
     f.universe = QStringLiteral("-4");
