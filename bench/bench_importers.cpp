@@ -41,7 +41,8 @@ double cpuTimeMs()
 #if defined(Q_OS_UNIX)
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 + (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
+    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 +
+           (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
 #else
     return 0;
 #endif
@@ -71,8 +72,9 @@ void timeLoad(const char *label, const QString &path, double targetMs)
     }
     std::sort(ms.begin(), ms.end());
     std::sort(cpuMs.begin(), cpuMs.end());
-    std::printf("%-48s best %7.1f ms  median %7.1f ms  CPU median %7.1f ms  (%lld pixels, %s)", label, ms.front(),
-                ms[ms.size() / 2], cpuMs[cpuMs.size() / 2], static_cast<long long>(pixels), ok ? "ok" : "FAILED");
+    std::printf("%-48s best %7.1f ms  median %7.1f ms  CPU median %7.1f ms  (%lld pixels, %s)", label,
+                ms.front(), ms[ms.size() / 2], cpuMs[cpuMs.size() / 2], static_cast<long long>(pixels),
+                ok ? "ok" : "FAILED");
     if (targetMs > 0)
         std::printf("  target < %.0f ms: %s", targetMs, ms[ms.size() / 2] < targetMs ? "met" : "MISSED");
     std::printf("  peak RSS %ld MiB\n", peakMemoryMiB());
@@ -97,7 +99,8 @@ int main(int argc, char *argv[])
         std::printf("MADRIX 50,000 fixtures, %s: %lld bytes of XML, %lld bytes gzip\n",
                     indented ? "indented" : "one line", static_cast<long long>(wall.size()),
                     static_cast<long long>(packed.size()));
-        timeLoad(indented ? "MADRIX import, 50,000 fixtures, gzip, indented" : "MADRIX import, 50,000 fixtures, gzip",
+        timeLoad(indented ? "MADRIX import, 50,000 fixtures, gzip, indented"
+                          : "MADRIX import, 50,000 fixtures, gzip",
                  wallPath, 2000);
     }
 

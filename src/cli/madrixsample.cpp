@@ -119,7 +119,8 @@ QByteArray gzipCompress(const QByteArray &bytes)
 {
     z_stream stream{};
     // 16 + MAX_WBITS asks zlib for the gzip wrapper.
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY) != Z_OK)
+    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY) !=
+        Z_OK)
         return {};
     QByteArray out;
     out.resize(qsizetype(deflateBound(&stream, uLong(bytes.size()))) + 64);

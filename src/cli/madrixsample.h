@@ -35,9 +35,9 @@ struct MadrixSampleFixture
 struct MadrixSample
 {
     QString version = QStringLiteral("0x05000000"); // empty: no version attribute
-    QString product;                              // empty: no <product> element
-    QStringList extraElements;                    // further empty header elements, e.g. "save_date"
-    int fixtureGroups = 0;                        // > 0 writes a <fixture_group_list>
+    QString product;                                // empty: no <product> element
+    QStringList extraElements;                      // further empty header elements, e.g. "save_date"
+    int fixtureGroups = 0;                          // > 0 writes a <fixture_group_list>
     bool withFixtureList = true;
     bool indented = false; // one element per line, indented; otherwise one long line
 

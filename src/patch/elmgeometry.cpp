@@ -17,7 +17,8 @@ QPointF catmullRom(const QPointF &p0, const QPointF &p1, const QPointF &p2, cons
 {
     const double t2 = t * t;
     const double t3 = t2 * t;
-    return 0.5 * ((2 * p1) + (-p0 + p2) * t + (2 * p0 - 5 * p1 + 4 * p2 - p3) * t2 + (-p0 + 3 * p1 - 3 * p2 + p3) * t3);
+    return 0.5 * ((2 * p1) + (-p0 + p2) * t + (2 * p0 - 5 * p1 + 4 * p2 - p3) * t2 +
+                  (-p0 + 3 * p1 - 3 * p2 + p3) * t3);
 }
 
 // The curve through the control points as a dense polyline. A closed curve is

@@ -84,7 +84,11 @@ LedType parseLedType(const QString &text)
     type.channelsPerLed = int(letters.size()) * width;
     for (qsizetype i = 0; i < letters.size(); ++i) {
         const QChar c = letters.at(i);
-        const quint8 role = c == u'R' ? RoleRed : c == u'G' ? RoleGreen : c == u'B' ? RoleBlue : c == u'W' ? RoleWhite : RoleNone;
+        const quint8 role = c == u'R'   ? RoleRed
+                            : c == u'G' ? RoleGreen
+                            : c == u'B' ? RoleBlue
+                            : c == u'W' ? RoleWhite
+                                        : RoleNone;
         type.hasAmber = type.hasAmber || c == u'A';
         const qsizetype slot = i * width;
         if (slot < kSlotCount)
@@ -177,12 +181,14 @@ Parsed parseXml(const QByteArray &bytes)
             parsed.appVersion = a.value(QLatin1StringView("appVersion")).toString();
         } else if (is({"console", "model", "stages", "stage"})) {
             parsed.stages.append(RawStage{a.value(QLatin1StringView("name")).toString(),
-                                          a.value(QLatin1StringView("id")).toString(), {}});
+                                          a.value(QLatin1StringView("id")).toString(),
+                                          {}});
         } else if (is({"console", "model", "stages", "stage", "fixtures", "fixture"})) {
             parsed.stages.last().fixtures.append(RawFixture{a, {}, {}});
         } else if (is({"console", "model", "stages", "stage", "fixtures", "fixture", "geometry"})) {
             parsed.stages.last().fixtures.last().geometry = a;
-        } else if (is({"console", "model", "stages", "stage", "fixtures", "fixture", "geometry", "points", "point"})) {
+        } else if (is({"console", "model", "stages", "stage", "fixtures", "fixture", "geometry", "points",
+                       "point"})) {
             parsed.stages.last().fixtures.last().points.append(
                 QPointF(doubleAttribute(a, "x"), doubleAttribute(a, "y")));
         } else if (is({"console", "model", "output", "artnet", "universes", "universe"})) {
@@ -249,8 +255,8 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
 {
     const QXmlStreamAttributes &a = raw.attributes;
     const QString protocol = a.value(QLatin1StringView("dmxProtocol")).trimmed().toString();
-    if (!protocol.isEmpty() && protocol.compare(QLatin1StringView("ArtNet"), Qt::CaseInsensitive) != 0
-        && protocol.compare(QLatin1StringView("Art-Net"), Qt::CaseInsensitive) != 0) {
+    if (!protocol.isEmpty() && protocol.compare(QLatin1StringView("ArtNet"), Qt::CaseInsensitive) != 0 &&
+        protocol.compare(QLatin1StringView("Art-Net"), Qt::CaseInsensitive) != 0) {
         ++findings.otherProtocol;
         findings.protocols.add(protocol);
         return;
@@ -264,10 +270,11 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
     }
     qint64 leds = 0, startUniverse = 0, startAddress = 0, breakAfter = 0;
     const QXmlStreamAttributes &g = raw.geometry;
-    if (!intAttribute(g, "nbLeds", &leds, -1) || leds < 1 || leds > kMaxLedsPerFixture || raw.points.isEmpty()
-        || !intAttribute(a, "startUniverse", &startUniverse, 0) || !intAttribute(a, "startAddress", &startAddress, 0)
-        || !intAttribute(a, "breakUniverseAfter", &breakAfter, 0) || startAddress < 0
-        || startAddress >= kUniverseChannels || breakAfter < 0) {
+    if (!intAttribute(g, "nbLeds", &leds, -1) || leds < 1 || leds > kMaxLedsPerFixture ||
+        raw.points.isEmpty() || !intAttribute(a, "startUniverse", &startUniverse, 0) ||
+        !intAttribute(a, "startAddress", &startAddress, 0) ||
+        !intAttribute(a, "breakUniverseAfter", &breakAfter, 0) || startAddress < 0 ||
+        startAddress >= kUniverseChannels || breakAfter < 0) {
         ++findings.incomplete;
         return;
     }
@@ -310,8 +317,10 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
         findings.ignoredChannels.add(QStringLiteral("A (%1)").arg(typeText.toUpper()));
 
     // Where ELM draws the LEDs, turned about the centre of the control points.
-    const bool curve = g.value(QLatin1StringView("type")).compare(QLatin1StringView("curve"), Qt::CaseInsensitive) == 0;
-    const bool loop = g.value(QLatin1StringView("loop")).compare(QLatin1StringView("true"), Qt::CaseInsensitive) == 0;
+    const bool curve =
+        g.value(QLatin1StringView("type")).compare(QLatin1StringView("curve"), Qt::CaseInsensitive) == 0;
+    const bool loop =
+        g.value(QLatin1StringView("loop")).compare(QLatin1StringView("true"), Qt::CaseInsensitive) == 0;
     QVector<double> angles;
     QVector<QPointF> points = elmLedPositions(raw.points, int(leds), curve, loop, &angles);
     const double rotation = doubleAttribute(g, "rotation");
@@ -325,8 +334,10 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
             bottom = std::max(bottom, p.y());
         }
         const QRectF box(QPointF(left, top), QPointF(right, bottom));
-        const QTransform turn =
-            QTransform().translate(box.center().x(), box.center().y()).rotate(rotation).translate(-box.center().x(), -box.center().y());
+        const QTransform turn = QTransform()
+                                    .translate(box.center().x(), box.center().y())
+                                    .rotate(rotation)
+                                    .translate(-box.center().x(), -box.center().y());
         for (QPointF &p : points)
             p = turn.map(p);
         for (double &angle : angles)
@@ -395,34 +406,39 @@ PatchLoadResult emptyResult(const QString &sourcePath)
 void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
 {
     if (f.sixteenBit > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use 16-bit LED types (%2); the "
-                                                                 "monitor shows the high byte of each color only."),
-                                     {f.sixteenBit, f.sixteenBitTypes.joined()}));
-    if (!f.ignoredChannels.isEmpty())
         warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-                         {f.ignoredChannels.joined()}));
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use 16-bit LED types (%2); the "
+                                                     "monitor shows the high byte of each color only."),
+                         {f.sixteenBit, f.sixteenBitTypes.joined()}));
+    if (!f.ignoredChannels.isEmpty())
+        warnings.append(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
+            {f.ignoredChannels.joined()}));
     if (f.splitPixels > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have a pixel split across a universe "
-                                                                 "boundary; its channels in the next universe are not "
-                                                                 "shown."),
-                                     {f.splitPixels}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have a pixel split across a universe "
+                                                     "boundary; its channels in the next universe are not "
+                                                     "shown."),
+                         {f.splitPixels}));
     if (f.past512 > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
-                                                                 "universe; channels beyond 512 are not shown."),
-                                     {f.past512}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
+                                                     "universe; channels beyond 512 are not shown."),
+                         {f.past512}));
     if (f.otherProtocol > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) output %2 rather than Art-Net and were skipped."),
             {f.otherProtocol, f.protocols.joined()}));
     if (f.unknownType > 0)
         warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use LED types the tester does not know (%2) and were skipped."),
+            QT_TRANSLATE_NOOP("TPatch",
+                              "%1 fixture(s) use LED types the tester does not know (%2) and were skipped."),
             {f.unknownType, f.unknownTypes.joined()}));
     if (f.badUniverse > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
-                                                                 "Art-Net Port-Address and were skipped."),
-                                     {f.badUniverse}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
+                                                     "Art-Net Port-Address and were skipped."),
+                         {f.badUniverse}));
     if (f.incomplete > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
@@ -449,15 +465,16 @@ PatchLoadResult parseElmProject(const QByteArray &bytes, const QString &fileName
     }
     appendWarnings(mapper.findings, result.warnings);
     if (result.patch.groups.isEmpty()) {
-        result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."),
-                                    {fileName});
+        result.error = PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."), {fileName});
         return result;
     }
     // A backup is named "<project>@@YYYY-MM-DD HHhMMm.elmbackup"; its project is the part before "@@".
     const QString base = QFileInfo(fileName).completeBaseName();
     result.patch.projectName = base.section(QStringLiteral("@@"), 0, 0);
-    result.patch.importedFrom = parsed.appVersion.isEmpty() ? QStringLiteral("ENTTEC ELM")
-                                                            : QStringLiteral("ENTTEC ELM %1").arg(parsed.appVersion);
+    result.patch.importedFrom = parsed.appVersion.isEmpty()
+                                    ? QStringLiteral("ENTTEC ELM")
+                                    : QStringLiteral("ENTTEC ELM %1").arg(parsed.appVersion);
     result.ok = true;
     return result;
 }
@@ -470,7 +487,8 @@ PatchLoadResult readElmProject(const QString &path)
         PatchLoadResult result = emptyResult(path);
         const QString reason =
             QFileInfo(path).isDir() ? QStringLiteral("it is a folder, not a file") : file.errorString();
-        result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
+        result.error =
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
         return result;
     }
     return parseElmProject(file.readAll(), fileName, path);

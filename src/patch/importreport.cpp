@@ -62,15 +62,15 @@ QString copyName(const QString &sourcePath)
 
 QString importLogsFolder(const QString &besideProgram, const QString &perUser)
 {
-    const QString first =
-        besideProgram.isEmpty() ? QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("logs"))
-                                : besideProgram;
+    const QString first = besideProgram.isEmpty()
+                              ? QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("logs"))
+                              : besideProgram;
     if (usableFolder(first))
         return QDir::cleanPath(first);
-    const QString second =
-        perUser.isEmpty()
-            ? QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(QStringLiteral("logs"))
-            : perUser;
+    const QString second = perUser.isEmpty()
+                               ? QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))
+                                     .filePath(QStringLiteral("logs"))
+                               : perUser;
     if (usableFolder(second))
         return QDir::cleanPath(second);
     return {};
@@ -80,13 +80,15 @@ QString importResultBlock(const PatchLoadResult &result, bool translated)
 {
     QString block;
     if (!result.ok)
-        block += heading(QT_TRANSLATE_NOOP("TPatch", "Error:"), translated) + QStringLiteral("\n  %1\n").arg(
-                     translated ? result.error.text() : result.error.untranslatedText());
+        block += heading(QT_TRANSLATE_NOOP("TPatch", "Error:"), translated) +
+                 QStringLiteral("\n  %1\n")
+                     .arg(translated ? result.error.text() : result.error.untranslatedText());
     if (!result.warnings.isEmpty()) {
         block += heading(QT_TRANSLATE_NOOP("TPatch", "Warnings:"), translated) + u'\n';
         for (qsizetype i = 0; i < result.warnings.size(); ++i) {
             const PatchMessage &w = result.warnings.at(i);
-            block += QStringLiteral("  %1. %2\n").arg(i + 1).arg(translated ? w.text() : w.untranslatedText());
+            block +=
+                QStringLiteral("  %1. %2\n").arg(i + 1).arg(translated ? w.text() : w.untranslatedText());
         }
     }
     return block;
@@ -101,7 +103,8 @@ QString importFingerprint(const QByteArray &fileBytes, const PatchLoadResult &re
 }
 
 ImportReportResult writeImportReport(const QString &logsFolder, const QString &sourcePath,
-                                     const PatchLoadResult &result, const QString &language, const QDateTime &now)
+                                     const PatchLoadResult &result, const QString &language,
+                                     const QDateTime &now)
 {
     ImportReportResult out;
     QByteArray bytes;
@@ -162,9 +165,11 @@ ImportReportResult writeImportReport(const QString &logsFolder, const QString &s
     text += QStringLiteral("Time:      %1\n").arg(now.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
     text += QStringLiteral("Source:    %1\n").arg(QDir::toNativeSeparators(sourcePath));
     text += QStringLiteral("Format:    %1\n").arg(result.patch.formatLabel);
-    text += QStringLiteral("Size:      %1 bytes\n").arg(readable ? qint64(bytes.size()) : QFileInfo(sourcePath).size());
+    text += QStringLiteral("Size:      %1 bytes\n")
+                .arg(readable ? qint64(bytes.size()) : QFileInfo(sourcePath).size());
     text += QStringLiteral("SHA-256:   %1\n")
-                .arg(readable ? QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex())
+                .arg(readable ? QString::fromLatin1(
+                                    QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex())
                               : QStringLiteral("-"));
     text += QStringLiteral("Copy:      %1\n").arg(copyField);
     text += QStringLiteral("Result:    %1\n")

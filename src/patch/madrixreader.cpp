@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
-#include <QRegularExpression>
 #include <QUuid>
 #include <QXmlStreamReader>
 
@@ -23,7 +22,17 @@ const QLatin1StringView kCheckedVersion("0x05000000");
 constexpr quint32 kPortAddressCount = 32768;
 constexpr qint64 kUniverseChannels = 512;
 
-enum class Tag { Other, Root, FixtureList, Fixture, Specification, Settings, Channel, GroupList };
+enum class Tag
+{
+    Other,
+    Root,
+    FixtureList,
+    Fixture,
+    Specification,
+    Settings,
+    Channel,
+    GroupList
+};
 
 struct RawChannel
 {
@@ -73,13 +82,22 @@ struct MappedChannel
 };
 
 // Numbers in free text such as "3, 4, 0" or "8x8": the first count of them, missing ones 0.
-QVector<double> numbersIn(const QString &text, int count)
+QVector<double> numbersIn(QStringView text, int count)
 {
-    static const QRegularExpression number(QStringLiteral("-?\\d+(?:\\.\\d+)?"));
     QVector<double> out;
-    auto it = number.globalMatch(text);
-    while (it.hasNext() && out.size() < count)
-        out.append(it.next().captured().toDouble());
+    qsizetype i = 0;
+    while (i < text.size() && out.size() < count) {
+        const bool sign = text.at(i) == u'-' && i + 1 < text.size() && text.at(i + 1).isDigit();
+        if (!sign && !text.at(i).isDigit()) {
+            ++i;
+            continue;
+        }
+        qsizetype end = i + (sign ? 1 : 0);
+        while (end < text.size() && (text.at(end).isDigit() || text.at(end) == u'.'))
+            ++end;
+        out.append(text.mid(i, end - i).toDouble());
+        i = end;
+    }
     while (out.size() < count)
         out.append(0);
     return out;
@@ -139,8 +157,8 @@ void Mapper::map(const RawFixture &raw)
     }
     qint64 universe = 0;
     qint64 dmxChannel = 0;
-    if (!raw.hasSpecification || !raw.hasSettings || !toInteger(raw.universe, &universe)
-        || !toInteger(raw.dmxChannel, &dmxChannel)) {
+    if (!raw.hasSpecification || !raw.hasSettings || !toInteger(raw.universe, &universe) ||
+        !toInteger(raw.dmxChannel, &dmxChannel)) {
         ++findings.incomplete;
         return;
     }
@@ -209,8 +227,8 @@ void Mapper::map(const RawFixture &raw)
                           : !raw.displayName.trimmed().isEmpty()   ? raw.displayName
                                                                    : raw.fixtureName;
     qint64 declared = 0;
-    fixture.maxChannelCount = quint16(std::clamp<qint64>(
-        toInteger(raw.channelCount, &declared) ? declared : channels.size(), 0, 65535));
+    fixture.maxChannelCount = quint16(
+        std::clamp<qint64>(toInteger(raw.channelCount, &declared) ? declared : channels.size(), 0, 65535));
     fixture.countX = quint16(gridW);
     fixture.countY = quint16(gridH);
     fixture.dimX = gridW;
@@ -285,9 +303,10 @@ bool isNamed(const QXmlStreamReader &xml, const char *name)
 // mapper at once so only one raw fixture is held at a time.
 ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
 {
-    static const char *const kUnsupported[] = {"product",       "save_date",         "authentication_list",
-                                               "is_patched",    "matrix_preferences", "virtual_matrix_preferences",
-                                               "fixture_group_list"};
+    static const char *const kUnsupported[] = {
+        "product",           "save_date",          "authentication_list",
+        "is_patched",        "matrix_preferences", "virtual_matrix_preferences",
+        "fixture_group_list"};
     ParsedFile parsed;
     // Through a device the reader decodes a few kilobytes at a time instead of
     // turning the whole document into one string first: faster, and half the memory.
@@ -316,7 +335,8 @@ ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
         if (!sawRoot) {
             sawRoot = true;
             if (!isNamed(xml, "madrix_patch")) {
-                parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the <madrix_patch> root element is missing"));
+                parsed.error =
+                    PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the <madrix_patch> root element is missing"));
                 return parsed;
             }
             parsed.version = xml.attributes().value(QLatin1StringView("version")).toString();
@@ -325,12 +345,12 @@ ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
         }
         const Tag parent = stack.last();
         if (parent == Tag::Specification) {
-            QString *target = isNamed(xml, "protocol_type")   ? &fixture.protocolType
-                              : isNamed(xml, "fixture_name")    ? &fixture.fixtureName
-                              : isNamed(xml, "display_name")    ? &fixture.displayName
-                              : isNamed(xml, "pixel_count")     ? &fixture.pixelCount
+            QString *target = isNamed(xml, "protocol_type")       ? &fixture.protocolType
+                              : isNamed(xml, "fixture_name")      ? &fixture.fixtureName
+                              : isNamed(xml, "display_name")      ? &fixture.displayName
+                              : isNamed(xml, "pixel_count")       ? &fixture.pixelCount
                               : isNamed(xml, "dmx_channel_count") ? &fixture.channelCount
-                                                                : nullptr;
+                                                                  : nullptr;
             if (isNamed(xml, "channel")) {
                 channel = RawChannel();
                 stack.append(Tag::Channel);
@@ -453,40 +473,47 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
             QT_TRANSLATE_NOOP("TPatch", "Some MADRIX fields are not supported yet and were ignored: %1"),
             {f.unsupported.joined()}));
     if (f.groups > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 MADRIX fixture group(s) were found, but groups "
-                                                                 "are not imported yet; all fixtures were placed in "
-                                                                 "one group."),
-                                     {f.groups}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 MADRIX fixture group(s) were found, but groups "
+                                                     "are not imported yet; all fixtures were placed in "
+                                                     "one group."),
+                         {f.groups}));
     if (f.rotatedMultiPixel > 0)
         warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "%1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
-                                        "been verified against MADRIX yet. Check them on the monitor."),
+            QT_TRANSLATE_NOOP("TPatch",
+                              "%1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
+                              "been verified against MADRIX yet. Check them on the monitor."),
             {f.rotatedMultiPixel}));
     if (!f.ignoredChannels.isEmpty())
-        warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-                         {f.ignoredChannels.joined()}));
+        warnings.append(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
+            {f.ignoredChannels.joined()}));
     if (f.widePixels > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have pixels whose color channels span "
-                                                                 "more than 6 DMX channels; only the first 6 are "
-                                                                 "shown."),
-                                     {f.widePixels}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have pixels whose color channels span "
+                                                     "more than 6 DMX channels; only the first 6 are "
+                                                     "shown."),
+                         {f.widePixels}));
     if (f.past512 > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
-                                                                 "universe; channels beyond 512 are not shown."),
-                                     {f.past512}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
+                                                     "universe; channels beyond 512 are not shown."),
+                         {f.past512}));
     if (f.dvi > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 DVI fixture(s) were skipped: they have no DMX "
-                                                                 "address, so nothing of theirs reaches Art-Net."),
-                                     {f.dvi}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 DVI fixture(s) were skipped: they have no DMX "
+                                                     "address, so nothing of theirs reaches Art-Net."),
+                         {f.dvi}));
     if (f.noColour > 0)
         warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have no color channel the tester can show and were skipped."),
+            QT_TRANSLATE_NOOP("TPatch",
+                              "%1 fixture(s) have no color channel the tester can show and were skipped."),
             {f.noColour}));
     if (f.badUniverse > 0)
-        warnings.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
-                                                                 "Art-Net Port-Address and were skipped."),
-                                     {f.badUniverse}));
+        warnings.append(
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
+                                                     "Art-Net Port-Address and were skipped."),
+                         {f.badUniverse}));
     if (f.incomplete > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
@@ -495,7 +522,8 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
 
 } // namespace
 
-PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fileName, const QString &sourcePath)
+PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fileName,
+                                 const QString &sourcePath)
 {
     QByteArray xmlBytes;
     if (isGzip(fileBytes)) {
@@ -516,14 +544,15 @@ PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fil
     const QString product = parsed.product.isEmpty() ? QStringLiteral("MADRIX") : parsed.product;
     if (parsed.version != kCheckedVersion)
         result.warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "\"%1\" was saved by %2 (file version %3), which this importer has not been "
-                                        "checked against. Verify the result on the monitor."),
+            QT_TRANSLATE_NOOP("TPatch",
+                              "\"%1\" was saved by %2 (file version %3), which this importer has not been "
+                              "checked against. Verify the result on the monitor."),
             {fileName, product, parsed.version.isEmpty() ? QStringLiteral("-") : parsed.version}));
     appendWarnings(mapper.findings, result.warnings);
 
     if (mapper.torvoverses.isEmpty()) {
-        result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."),
-                                    {fileName});
+        result.error = PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."), {fileName});
         return result;
     }
 
@@ -550,7 +579,8 @@ PatchLoadResult readMadrixPatch(const QString &path)
         PatchLoadResult result = emptyResult(path);
         const QString reason =
             QFileInfo(path).isDir() ? QStringLiteral("it is a folder, not a file") : file.errorString();
-        result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
+        result.error =
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
         return result;
     }
     return parseMadrixPatch(file.readAll(), fileName, path);

@@ -19,6 +19,7 @@ constexpr double kMadrixVoxelSize = 10.0;
 PatchLoadResult readMadrixPatch(const QString &path);
 
 // The same from bytes already read; fileName names the file in messages.
-PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fileName, const QString &sourcePath);
+PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fileName,
+                                 const QString &sourcePath);
 
 } // namespace TPatch

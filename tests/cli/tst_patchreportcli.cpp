@@ -35,8 +35,8 @@ void TestPatchReportCli::generatedFilesLoadAndReport_data()
     QTest::addColumn<int>("warnings");
     QTest::newRow("madrix gzip") << QStringList{"madrix-patch", "wall.mpz", "--fixtures", "500"}
                                  << "MADRIX 5 patch (.mpz)" << 500 << 0;
-    QTest::newRow("madrix plain") << QStringList{"madrix-patch", "wall.mpz", "--plain"} << "MADRIX 5 patch (.mpz)"
-                                  << 256 << 0;
+    QTest::newRow("madrix plain") << QStringList{"madrix-patch", "wall.mpz", "--plain"}
+                                  << "MADRIX 5 patch (.mpz)" << 256 << 0;
     QTest::newRow("elm") << QStringList{"elm-project", "show.elm"} << "ENTTEC ELM project (.elm)" << 292 << 2;
 }
 
@@ -66,7 +66,9 @@ void TestPatchReportCli::generatedFilesLoadAndReport()
     QVERIFY(QFileInfo::exists(QDir(folder).filePath(QFileInfo(file).fileName())));
 
     // Plain output ends with the folder; the same load again reuses it.
-    QCOMPARE(run({QStringLiteral("patch"), file, QStringLiteral("--report"), QStringLiteral("--logs"), logs}, &out), 0);
+    QCOMPARE(run({QStringLiteral("patch"), file, QStringLiteral("--report"), QStringLiteral("--logs"), logs},
+                 &out),
+             0);
     QCOMPARE(QString::fromUtf8(out).trimmed().split(u'\n').last(), folder);
     QCOMPARE(QDir(logs).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
 }
@@ -74,10 +76,11 @@ void TestPatchReportCli::generatedFilesLoadAndReport()
 void TestPatchReportCli::badGenerateArguments()
 {
     QTemporaryDir dir;
-    QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("madrix-patch"), dir.filePath(QStringLiteral("a.mpz")),
-                  QStringLiteral("--fixtures"), QStringLiteral("0")}),
+    QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("madrix-patch"),
+                  dir.filePath(QStringLiteral("a.mpz")), QStringLiteral("--fixtures"), QStringLiteral("0")}),
              2);
-    QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("wall"), dir.filePath(QStringLiteral("a.mpz"))}), 2);
+    QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("wall"), dir.filePath(QStringLiteral("a.mpz"))}),
+             2);
 }
 
 QTEST_GUILESS_MAIN(TestPatchReportCli)

@@ -84,20 +84,33 @@ void TestElmReader::pixelTypes_data()
     QTest::addColumn<int>("secondAddress");
     QTest::addColumn<QStringList>("warnings");
 
-    QTest::newRow("RGB") << "RGB" << "123000" << 3 << QStringList();
-    QTest::newRow("RBG") << "RBG" << "132000" << 3 << QStringList();
-    QTest::newRow("GRB") << "GRB" << "213000" << 3 << QStringList();
-    QTest::newRow("lower case") << "grb" << "213000" << 3 << QStringList();
-    QTest::newRow("RGBW") << "RGBW" << "123400" << 4 << QStringList();
-    QTest::newRow("GRBW") << "GRBW" << "213400" << 4 << QStringList();
-    QTest::newRow("RGBA") << "RGBA" << "123000" << 4
-                          << QStringList{QStringLiteral("Color channels the tester cannot show yet were ignored: A (RGBA)")};
-    QTest::newRow("RGBAW") << "RGBAW" << "123040" << 5
-                           << QStringList{QStringLiteral("Color channels the tester cannot show yet were ignored: A (RGBAW)")};
-    QTest::newRow("RGB16") << "RGB16" << "102030" << 6
-                           << QStringList{QStringLiteral("1 fixture(s) use 16-bit LED types (RGB16); the monitor shows "
-                                                         "the high byte of each color only.")};
-    QTest::newRow("missing type is RGB") << "" << "123000" << 3 << QStringList();
+    QTest::newRow("RGB") << "RGB"
+                         << "123000" << 3 << QStringList();
+    QTest::newRow("RBG") << "RBG"
+                         << "132000" << 3 << QStringList();
+    QTest::newRow("GRB") << "GRB"
+                         << "213000" << 3 << QStringList();
+    QTest::newRow("lower case") << "grb"
+                                << "213000" << 3 << QStringList();
+    QTest::newRow("RGBW") << "RGBW"
+                          << "123400" << 4 << QStringList();
+    QTest::newRow("GRBW") << "GRBW"
+                          << "213400" << 4 << QStringList();
+    QTest::newRow("RGBA") << "RGBA"
+                          << "123000" << 4
+                          << QStringList{QStringLiteral(
+                                 "Color channels the tester cannot show yet were ignored: A (RGBA)")};
+    QTest::newRow("RGBAW") << "RGBAW"
+                           << "123040" << 5
+                           << QStringList{QStringLiteral(
+                                  "Color channels the tester cannot show yet were ignored: A (RGBAW)")};
+    QTest::newRow("RGB16") << "RGB16"
+                           << "102030" << 6
+                           << QStringList{QStringLiteral(
+                                  "1 fixture(s) use 16-bit LED types (RGB16); the monitor shows "
+                                  "the high byte of each color only.")};
+    QTest::newRow("missing type is RGB") << ""
+                                         << "123000" << 3 << QStringList();
 }
 
 void TestElmReader::pixelTypes()
@@ -128,21 +141,39 @@ void TestElmReader::universes_data()
     QTest::addColumn<QStringList>("wiring");
     QTest::addColumn<QStringList>("warnings");
 
-    QTest::newRow("packed, fits") << "2" << "0" << "0" << "3" << QStringList{"2:0", "2:3", "2:6"} << QStringList();
+    QTest::newRow("packed, fits") << "2"
+                                  << "0"
+                                  << "0"
+                                  << "3" << QStringList{"2:0", "2:3", "2:6"} << QStringList();
     QTest::newRow("packed, boundary between pixels")
-        << "0" << "506" << "0" << "3" << QStringList{"0:506", "0:509", "1:0"} << QStringList();
+        << "0"
+        << "506"
+        << "0"
+        << "3" << QStringList{"0:506", "0:509", "1:0"} << QStringList();
     QTest::newRow("packed, pixel split")
-        << "0" << "508" << "0" << "3" << QStringList{"0:508", "0:511", "1:2"}
-        << QStringList{QStringLiteral("1 fixture(s) have a pixel split across a universe boundary; its channels in the "
-                                      "next universe are not shown.")};
-    QTest::newRow("break every 2") << "5" << "9" << "2" << "5"
-                                   << QStringList{"5:9", "5:12", "6:0", "6:3", "7:0"} << QStringList();
+        << "0"
+        << "508"
+        << "0"
+        << "3" << QStringList{"0:508", "0:511", "1:2"}
+        << QStringList{QStringLiteral(
+               "1 fixture(s) have a pixel split across a universe boundary; its channels in the "
+               "next universe are not shown.")};
+    QTest::newRow("break every 2") << "5"
+                                   << "9"
+                                   << "2"
+                                   << "5" << QStringList{"5:9", "5:12", "6:0", "6:3", "7:0"} << QStringList();
     QTest::newRow("break after too many")
-        << "0" << "507" << "2" << "2" << QStringList{"0:507", "0:510"}
-        << QStringList{QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 "
-                                      "are not shown.")};
-    QTest::newRow("last Port-Address") << "32767" << "0" << "0" << "2" << QStringList{"32767:0", "32767:3"}
-                                       << QStringList();
+        << "0"
+        << "507"
+        << "2"
+        << "2" << QStringList{"0:507", "0:510"}
+        << QStringList{
+               QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 "
+                              "are not shown.")};
+    QTest::newRow("last Port-Address") << "32767"
+                                       << "0"
+                                       << "0"
+                                       << "2" << QStringList{"32767:0", "32767:3"} << QStringList();
 }
 
 void TestElmReader::universes()
@@ -199,7 +230,10 @@ void TestElmReader::freePositions()
     f.rotation = QStringLiteral("90");
     r = parseElmProject(writeElmXml(oneStage({f})), kFile, kFile);
     const PatchFixture &turned = r.patch.groups.first().torvoverses.first().fixtures.first();
-    QVERIFY2(near(turned.pixelPoints.first(), QPointF(45, -45)), qPrintable(QStringLiteral("%1 %2").arg(turned.pixelPoints.first().x()).arg(turned.pixelPoints.first().y())));
+    QVERIFY2(
+        near(turned.pixelPoints.first(), QPointF(45, -45)),
+        qPrintable(
+            QStringLiteral("%1 %2").arg(turned.pixelPoints.first().x()).arg(turned.pixelPoints.first().y())));
     QVERIFY(near(turned.pixelPoints.last(), QPointF(45, 45)));
     QCOMPARE(turned.pixelRotations.first(), 90.0);
 
@@ -259,7 +293,8 @@ void TestElmReader::stagesAndTargets()
     second.fixtures = {lobby};
     s.stages.append(second);
     s.universeIps.append({300, QStringLiteral("192.0.2.1")});
-    const PatchLoadResult r = parseElmProject(writeElmXml(s), QStringLiteral("club@@2026-11-21 22h15m.elmbackup"), kFile);
+    const PatchLoadResult r =
+        parseElmProject(writeElmXml(s), QStringLiteral("club@@2026-11-21 22h15m.elmbackup"), kFile);
     QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
     QCOMPARE(r.patch.projectName, QStringLiteral("club"));
     QCOMPARE(r.patch.importedFrom, QStringLiteral("ENTTEC ELM 1.0.0.673"));
@@ -268,7 +303,8 @@ void TestElmReader::stagesAndTargets()
     // The stages under <view> and inside sequences are not read.
     QCOMPARE(r.patch.groups.size(), 2);
     QCOMPARE(r.patch.groups.at(0).groupName, QStringLiteral("Facade"));
-    QCOMPARE(r.patch.groups.at(0).groupId, QUuid::fromString(QStringLiteral("{6f1c2a1e-3b7d-4c55-9e0a-1d2b3c4d5e6f}")));
+    QCOMPARE(r.patch.groups.at(0).groupId,
+             QUuid::fromString(QStringLiteral("{6f1c2a1e-3b7d-4c55-9e0a-1d2b3c4d5e6f}")));
     QVERIFY(!r.patch.groups.at(1).groupId.isNull());
 
     // Facade: ring in universe 0; the eaves (200 GRB) fill 1 and run into 2; the bar breaks 3 | 4.
@@ -308,16 +344,18 @@ void TestElmReader::skippedFixtures()
     empty.points.clear();
     ElmSampleFixture huge = good;
     huge.leds = QStringLiteral("2000000000");
-    const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({good, dmx, odd, dmx, far, empty, huge})), kFile, kFile);
+    const PatchLoadResult r =
+        parseElmProject(writeElmXml(oneStage({good, dmx, odd, dmx, far, empty, huge})), kFile, kFile);
     QVERIFY(r.ok);
-    QCOMPARE(warningTexts(r),
-             (QStringList{
-                 QStringLiteral("2 fixture(s) output sACN rather than Art-Net and were skipped."),
-                 QStringLiteral("1 fixture(s) use LED types the tester does not know (RGBX) and were skipped."),
-                 QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were "
-                                "skipped."),
-                 QStringLiteral("2 fixture(s) are incomplete in the file and were skipped."),
-             }));
+    QCOMPARE(
+        warningTexts(r),
+        (QStringList{
+            QStringLiteral("2 fixture(s) output sACN rather than Art-Net and were skipped."),
+            QStringLiteral("1 fixture(s) use LED types the tester does not know (RGBX) and were skipped."),
+            QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were "
+                           "skipped."),
+            QStringLiteral("2 fixture(s) are incomplete in the file and were skipped."),
+        }));
     QCOMPARE(countPatch(r.patch).fixtures, 1);
 }
 
@@ -334,8 +372,9 @@ void TestElmReader::failures_data()
     QTest::newRow("no stages") << QByteArray("<console version=\"1\" appVersion=\"1.0.0.673\"/>")
                                << QStringLiteral("\"club.elm\" contains no DMX fixtures that can be shown.");
     ElmSample onlyView; // nothing under model/stages: the decoy stages must not count
-    QTest::newRow("only decoy stages") << writeElmXml(onlyView)
-                                       << QStringLiteral("\"club.elm\" contains no DMX fixtures that can be shown.");
+    QTest::newRow("only decoy stages")
+        << writeElmXml(onlyView)
+        << QStringLiteral("\"club.elm\" contains no DMX fixtures that can be shown.");
 }
 
 void TestElmReader::failures()

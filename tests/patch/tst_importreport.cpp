@@ -32,7 +32,8 @@ PatchLoadResult warned()
     r.ok = true;
     r.patch.formatLabel = QStringLiteral("MADRIX 5 patch (.mpz)");
     r.warnings = {PatchMessage("%1 fixture(s) are incomplete in the file and were skipped.", {qint64(2)}),
-                  PatchMessage("Color channels the tester cannot show yet were ignored: %1", {QStringLiteral("UV (6)")})};
+                  PatchMessage("Color channels the tester cannot show yet were ignored: %1",
+                               {QStringLiteral("UV (6)")})};
     return r;
 }
 
@@ -91,7 +92,8 @@ void TestImportReport::layout_data()
     PatchLoadResult clean;
     clean.ok = true;
     clean.patch.formatLabel = QStringLiteral("Torvane MOX patch (.tpatch)");
-    QTest::newRow("clean") << clean << "loaded with 0 warning(s)" << "";
+    QTest::newRow("clean") << clean << "loaded with 0 warning(s)"
+                           << "";
 }
 
 void TestImportReport::layout()
@@ -111,7 +113,8 @@ void TestImportReport::layout()
     QCOMPARE(r.folder, QDir(logs).filePath(QStringLiteral("2026-03-14_12-30-05")));
     QCOMPARE(readFile(QDir(r.folder).filePath(QStringLiteral("wall.mpz"))), bytes);
 
-    const QString fileHash = QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+    const QString fileHash =
+        QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
     const QString fingerprint = QString::fromLatin1(
         QCryptographicHash::hash(bytes + block.toUtf8(), QCryptographicHash::Sha256).toHex());
     QCOMPARE(importFingerprint(bytes, result), fingerprint);
@@ -127,8 +130,9 @@ void TestImportReport::layout()
                                             "Result:    %5\n"
                                             "Language:  English\n")
                                  .arg(fingerprint, QDir::toNativeSeparators(source), result.patch.formatLabel,
-                                      fileHash, resultLine)
-                             + block + QStringLiteral("\n--- In the interface language (English) ---\n\n") + block;
+                                      fileHash, resultLine) +
+                             block + QStringLiteral("\n--- In the interface language (English) ---\n\n") +
+                             block;
     const QByteArray report = readFile(QDir(r.folder).filePath(QStringLiteral("report.txt")));
     QVERIFY(report.startsWith("\xEF\xBB\xBF"));
     QCOMPARE(QString::fromUtf8(report.mid(3)), expected);
@@ -139,7 +143,8 @@ void TestImportReport::sameLoadReusesItsFolder()
     QTemporaryDir dir;
     const QString source = writeFile(dir.filePath(QStringLiteral("a.elm")), "<console appVersion=\"1\"/>");
     const QString logs = dir.path();
-    const ImportReportResult first = writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult first =
+        writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon);
     QVERIFY(first.ok);
     const ImportReportResult again =
         writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon.addSecs(3600));
@@ -147,7 +152,8 @@ void TestImportReport::sameLoadReusesItsFolder()
     QVERIFY(again.reused);
     QCOMPARE(again.folder, first.folder);
     // Another outcome for the same bytes, or other bytes, is another load.
-    const ImportReportResult other = writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+    const ImportReportResult other =
+        writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
     QVERIFY(!other.reused);
     QVERIFY(other.folder != first.folder);
     writeFile(source, "<console appVersion=\"2\"/>");
@@ -158,20 +164,25 @@ void TestImportReport::languageDoesNotChangeTheFingerprint()
 {
     QTemporaryDir dir;
     const QString source = writeFile(dir.filePath(QStringLiteral("wall.mpz")), "x");
-    const ImportReportResult english = writeImportReport(dir.path(), source, warned(), QStringLiteral("English"), kNoon);
+    const ImportReportResult english =
+        writeImportReport(dir.path(), source, warned(), QStringLiteral("English"), kNoon);
     ShoutingTranslator shouting;
     QCoreApplication::installTranslator(&shouting);
-    const ImportReportResult loud = writeImportReport(dir.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    const ImportReportResult loud =
+        writeImportReport(dir.path(), source, warned(), QStringLiteral("Loud"), kNoon);
     // A fresh folder in the other language shows both blocks.
     QTemporaryDir other;
-    const ImportReportResult fresh = writeImportReport(other.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    const ImportReportResult fresh =
+        writeImportReport(other.path(), source, warned(), QStringLiteral("Loud"), kNoon);
     QCoreApplication::removeTranslator(&shouting);
     QVERIFY(loud.reused);
     QCOMPARE(loud.folder, english.folder);
-    const QString text = QString::fromUtf8(readFile(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
+    const QString text =
+        QString::fromUtf8(readFile(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
     QVERIFY(text.contains(QStringLiteral("Warnings:\n  1. 2 fixture(s) are incomplete")));
-    QVERIFY(text.contains(QStringLiteral("--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE "
-                                         "INCOMPLETE")));
+    QVERIFY(text.contains(
+        QStringLiteral("--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE "
+                       "INCOMPLETE")));
 }
 
 void TestImportReport::foldersWithinOneSecondCount()
@@ -179,10 +190,12 @@ void TestImportReport::foldersWithinOneSecondCount()
     QTemporaryDir dir;
     QStringList names;
     for (int i = 0; i < 3; ++i) {
-        const QString source = writeFile(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
+        const QString source =
+            writeFile(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
         const QString logs = dir.filePath(QStringLiteral("logs"));
         QDir().mkpath(logs);
-        const ImportReportResult r = writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+        const ImportReportResult r =
+            writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
         QVERIFY(r.ok);
         names.append(QFileInfo(r.folder).fileName());
     }
@@ -193,7 +206,8 @@ void TestImportReport::unreadableSource()
 {
     QTemporaryDir dir;
     const QString source = dir.filePath(QStringLiteral("gone.tpatch"));
-    const ImportReportResult r = writeImportReport(dir.path(), source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult r =
+        writeImportReport(dir.path(), source, failed(), QStringLiteral("English"), kNoon);
     QVERIFY(r.ok);
     const QString text = QString::fromUtf8(readFile(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
     QVERIFY(text.contains(QStringLiteral("\nSHA-256:   -\n")));
@@ -202,10 +216,12 @@ void TestImportReport::unreadableSource()
 
     // A logs folder that cannot be made is a failure with the folder named.
     const QString blocker = writeFile(dir.filePath(QStringLiteral("file")), "x");
-    const ImportReportResult bad = writeImportReport(blocker, source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult bad =
+        writeImportReport(blocker, source, failed(), QStringLiteral("English"), kNoon);
     QVERIFY(!bad.ok);
     QCOMPARE(bad.error, QStringLiteral("could not create %1")
-                            .arg(QDir::toNativeSeparators(QDir(blocker).filePath(QStringLiteral("2026-03-14_12-30-05")))));
+                            .arg(QDir::toNativeSeparators(
+                                QDir(blocker).filePath(QStringLiteral("2026-03-14_12-30-05")))));
 }
 
 void TestImportReport::copyStaysInsideTheFolder()

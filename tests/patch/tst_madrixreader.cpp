@@ -68,7 +68,8 @@ MadrixSample withBaseline(const MadrixSampleFixture &tested)
     return s;
 }
 
-const PatchFixture *findFixture(const PatchLoadResult &r, const QString &name, quint16 *portAddressOut = nullptr)
+const PatchFixture *findFixture(const PatchLoadResult &r, const QString &name,
+                                quint16 *portAddressOut = nullptr)
 {
     for (const PatchGroup &g : r.patch.groups)
         for (const Torvoverse &t : g.torvoverses)
@@ -111,9 +112,11 @@ void TestMadrixReader::mapping_data()
     QTest::addColumn<QString>("cells");
     QTest::addColumn<QStringList>("warnings");
 
-    const QString ignoredAmber = QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4)");
-    const QString rotated = QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
-                                           "been verified against MADRIX yet. Check them on the monitor.");
+    const QString ignoredAmber =
+        QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4)");
+    const QString rotated =
+        QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
+                       "been verified against MADRIX yet. Check them on the monitor.");
     const QString badUniverse = QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net "
                                                "Port-Address and were skipped.");
     const QString incomplete = QStringLiteral("1 fixture(s) are incomplete in the file and were skipped.");
@@ -125,7 +128,8 @@ void TestMadrixReader::mapping_data()
     f.universe = QStringLiteral("32769");
     QTest::newRow("universe 32769") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
     f.universe = QStringLiteral("4294967297");
-    QTest::newRow("universe wrapping 32 bits") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    QTest::newRow("universe wrapping 32 bits")
+        << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
     f.universe = QStringLiteral("0");
     QTest::newRow("universe 0") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
     f.universe = QStringLiteral("-4");
@@ -144,20 +148,23 @@ void TestMadrixReader::mapping_data()
     QTest::newRow("amber ignored") << f << true << 0 << "123000" << 0 << "0,0" << QStringList{ignoredAmber};
 
     f = rgbFixture(QStringLiteral("T"));
-    f.channels = {channel("Mode", 0, 9, 255), channel("Red", 1, 0), channel("Green", 2, 1), channel("Blue", 3, 2)};
+    f.channels = {channel("Mode", 0, 9, 255), channel("Red", 1, 0), channel("Green", 2, 1),
+                  channel("Blue", 3, 2)};
     f.dmxChannel = QStringLiteral("20");
     QTest::newRow("fixed channel skipped") << f << true << 0 << "123000" << 21 << "0,0" << QStringList();
     f.channels = {channel("Blue", 2, 2), channel("Red", 0, 0), channel("Green", 1, 1)};
     QTest::newRow("channel-number order") << f << true << 0 << "123000" << 20 << "0,0" << QStringList();
     f.channels = {channel("Red", 0, 0), channel("Green", 1, 1), channel("Blue", 7, 2)};
     QTest::newRow("wide pixel") << f << true << 0 << "120000" << 20 << "0,0"
-                                << QStringList{QStringLiteral("1 fixture(s) have pixels whose color channels span "
-                                                              "more than 6 DMX channels; only the first 6 are shown.")};
+                                << QStringList{QStringLiteral(
+                                       "1 fixture(s) have pixels whose color channels span "
+                                       "more than 6 DMX channels; only the first 6 are shown.")};
     f = rgbFixture(QStringLiteral("T"));
     f.dmxChannel = QStringLiteral("510");
     QTest::newRow("past 512") << f << true << 0 << "123000" << 510 << "0,0"
-                              << QStringList{QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; "
-                                                            "channels beyond 512 are not shown.")};
+                              << QStringList{QStringLiteral(
+                                     "1 fixture(s) run past DMX channel 512 of their universe; "
+                                     "channels beyond 512 are not shown.")};
     f.dmxChannel = QStringLiteral("509");
     QTest::newRow("ends on 512") << f << true << 0 << "123000" << 509 << "0,0" << QStringList();
 
@@ -165,19 +172,25 @@ void TestMadrixReader::mapping_data()
     f = rgbFixture(QStringLiteral("T"));
     f.pixelCount = QStringLiteral("3, 2, 1");
     f.channels = madrixChannels(6, QStringLiteral("RGB"));
-    QTest::newRow("grid unrotated") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1" << QStringList();
+    QTest::newRow("grid unrotated") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
+                                    << QStringList();
     f.rotation = QStringLiteral("1");
-    QTest::newRow("quarter turn") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2" << QStringList{rotated};
+    QTest::newRow("quarter turn") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
+                                  << QStringList{rotated};
     f.rotation = QStringLiteral("2");
-    QTest::newRow("half turn") << f << true << 0 << "123000" << 0 << "2,1;1,1;0,1;2,0;1,0;0,0" << QStringList{rotated};
+    QTest::newRow("half turn") << f << true << 0 << "123000" << 0 << "2,1;1,1;0,1;2,0;1,0;0,0"
+                               << QStringList{rotated};
     f.rotation = QStringLiteral("3");
-    QTest::newRow("three quarters") << f << true << 0 << "123000" << 0 << "0,2;0,1;0,0;1,2;1,1;1,0" << QStringList{rotated};
+    QTest::newRow("three quarters") << f << true << 0 << "123000" << 0 << "0,2;0,1;0,0;1,2;1,1;1,0"
+                                    << QStringList{rotated};
     f.rotation = QStringLiteral("5");
-    QTest::newRow("low two bits") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2" << QStringList{rotated};
+    QTest::newRow("low two bits") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
+                                  << QStringList{rotated};
     f.rotation = QStringLiteral("quarter");
     QTest::newRow("odd rotation") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
-                                  << QStringList{QStringLiteral("Some MADRIX fields are not supported yet and were "
-                                                                "ignored: fixture_settings/rotation=quarter")};
+                                  << QStringList{
+                                         QStringLiteral("Some MADRIX fields are not supported yet and were "
+                                                        "ignored: fixture_settings/rotation=quarter")};
     f = rgbFixture(QStringLiteral("T"));
     f.rotation = QStringLiteral("1");
     QTest::newRow("turned single pixel") << f << true << 0 << "123000" << 0 << "0,0" << QStringList();
@@ -185,13 +198,15 @@ void TestMadrixReader::mapping_data()
     f = rgbFixture(QStringLiteral("T"));
     f.protocolType = QStringLiteral("DVI");
     QTest::newRow("dvi") << f << false << 0 << "" << 0 << ""
-                         << QStringList{QStringLiteral("1 DVI fixture(s) were skipped: they have no DMX address, so "
-                                                       "nothing of theirs reaches Art-Net.")};
+                         << QStringList{
+                                QStringLiteral("1 DVI fixture(s) were skipped: they have no DMX address, so "
+                                               "nothing of theirs reaches Art-Net.")};
     f = rgbFixture(QStringLiteral("T"));
     f.channels = {channel("Amber", 0, 4)};
     QTest::newRow("only amber") << f << false << 0 << "" << 0 << ""
-                                << QStringList{ignoredAmber, QStringLiteral("1 fixture(s) have no color channel the "
-                                                                            "tester can show and were skipped.")};
+                                << QStringList{ignoredAmber,
+                                               QStringLiteral("1 fixture(s) have no color channel the "
+                                                              "tester can show and were skipped.")};
     f = rgbFixture(QStringLiteral("T"));
     f.withSettings = false;
     QTest::newRow("no settings") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
@@ -200,7 +215,8 @@ void TestMadrixReader::mapping_data()
     QTest::newRow("universe not a number") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
     f = rgbFixture(QStringLiteral("T"));
     f.pixelCount = QStringLiteral("4, 1");
-    QTest::newRow("fewer channels than pixels") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    QTest::newRow("fewer channels than pixels")
+        << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
 }
 
 void TestMadrixReader::mapping()
@@ -298,22 +314,30 @@ void TestMadrixReader::everyWarningInOrder()
     QVERIFY(r.ok);
     QCOMPARE(r.patch.importedFrom, QStringLiteral("MADRIX 5.1 (file version 0x05010000)"));
     const QStringList expected{
-        QStringLiteral("\"show.mpz\" was saved by MADRIX 5.1 (file version 0x05010000), which this importer has not "
-                       "been checked against. Verify the result on the monitor."),
-        QStringLiteral("Some MADRIX fields are not supported yet and were ignored: product, save_date, is_patched, "
-                       "fixture_group_list"),
-        QStringLiteral("3 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were "
-                       "placed in one group."),
-        QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified "
-                       "against MADRIX yet. Check them on the monitor."),
+        QStringLiteral(
+            "\"show.mpz\" was saved by MADRIX 5.1 (file version 0x05010000), which this importer has not "
+            "been checked against. Verify the result on the monitor."),
+        QStringLiteral(
+            "Some MADRIX fields are not supported yet and were ignored: product, save_date, is_patched, "
+            "fixture_group_list"),
+        QStringLiteral(
+            "3 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were "
+            "placed in one group."),
+        QStringLiteral(
+            "1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified "
+            "against MADRIX yet. Check them on the monitor."),
         QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4), UV (6)"),
-        QStringLiteral("1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first "
-                       "6 are shown."),
-        QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown."),
-        QStringLiteral("2 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches "
-                       "Art-Net."),
+        QStringLiteral(
+            "1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first "
+            "6 are shown."),
+        QStringLiteral(
+            "1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown."),
+        QStringLiteral(
+            "2 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches "
+            "Art-Net."),
         QStringLiteral("1 fixture(s) have no color channel the tester can show and were skipped."),
-        QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped."),
+        QStringLiteral(
+            "1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped."),
         QStringLiteral("1 fixture(s) are incomplete in the file and were skipped."),
     };
     QCOMPARE(warningTexts(r), expected);
@@ -337,7 +361,8 @@ void TestMadrixReader::failures_data()
     QTest::newRow("not xml") << QByteArray("{\"corePatchData\": []}") << unreadable + QStringLiteral("...");
 
     const QByteArray gz = gzipCompress(writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T")))));
-    QTest::newRow("truncated gzip") << gz.left(gz.size() / 2) << unreadable + QStringLiteral("the file is truncated");
+    QTest::newRow("truncated gzip") << gz.left(gz.size() / 2)
+                                    << unreadable + QStringLiteral("the file is truncated");
     QTest::newRow("gzip header only") << gz.left(10) << unreadable + QStringLiteral("the file is truncated");
     QByteArray corrupt = gz;
     for (qsizetype i = 12; i < corrupt.size() - 8; i += 7)
@@ -352,7 +377,8 @@ void TestMadrixReader::failures_data()
     dvi.protocolType = QStringLiteral("DVI");
     nothing.fixtures = {dvi};
     QTest::newRow("nothing to show") << writeMadrixXml(nothing)
-                                     << QStringLiteral("\"show.mpz\" contains no DMX fixtures that can be shown.");
+                                     << QStringLiteral(
+                                            "\"show.mpz\" contains no DMX fixtures that can be shown.");
     nothing.fixtures.clear();
     QTest::newRow("empty list") << writeMadrixXml(nothing)
                                 << QStringLiteral("\"show.mpz\" contains no DMX fixtures that can be shown.");
@@ -434,7 +460,8 @@ void TestMadrixReader::hostileXmlIsBounded_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("ok");
 
-    QByteArray laughs = "<?xml version=\"1.0\"?>\n<!DOCTYPE madrix_patch [\n<!ENTITY a0 \"hahahahahahahahahaha\">\n";
+    QByteArray laughs =
+        "<?xml version=\"1.0\"?>\n<!DOCTYPE madrix_patch [\n<!ENTITY a0 \"hahahahahahahahahaha\">\n";
     for (int i = 1; i < 12; ++i)
         laughs += QStringLiteral("<!ENTITY a%1 \"&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;\">\n")
                       .arg(i)
@@ -473,7 +500,8 @@ void TestMadrixReader::loaderSniffsMadrix()
 {
     QTemporaryDir dir;
     const QByteArray xml = writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T"))));
-    const struct {
+    const struct
+    {
         const char *name;
         QByteArray bytes;
     } files[] = {{"a.MPZ", xml}, {"b.xml", xml}, {"c.bin", gzipCompress(xml)}};
