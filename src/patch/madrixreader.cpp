@@ -2,15 +2,18 @@
 
 #include "patch/gzipinflate.h"
 #include "patch/orderednames.h"
+#include "patch/splicedevice.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QThread>
 #include <QUuid>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <thread>
 
 namespace TPatch {
 
@@ -18,6 +21,8 @@ namespace {
 
 const char *const kFormatLabel = "MADRIX 5 patch (.mpz)";
 const QLatin1StringView kCheckedVersion("0x05000000");
+// Below this much XML a second thread costs more than it saves.
+constexpr qsizetype kTwoHalvesBytes = 4 * 1024 * 1024;
 // MADRIX numbers universes from 1; Art-Net Port-Addresses are 15 bits.
 constexpr quint32 kPortAddressCount = 32768;
 constexpr qint64 kUniverseChannels = 512;
@@ -62,7 +67,8 @@ struct RawFixture
 // What mapping counts for the warnings, in the order they are reported.
 struct Findings
 {
-    OrderedNames unsupported; // element names and odd values, first seen first
+    OrderedNames unsupported; // element names, first seen first
+    OrderedNames oddValues;   // "fixture_settings/rotation=..." entries, after the names
     qint64 groups = 0;
     qint64 rotatedMultiPixel = 0;
     OrderedNames ignoredChannels;
@@ -147,7 +153,31 @@ public:
     Findings findings;
 
     void map(const RawFixture &raw);
+    // Takes over what a mapper of the next stretch of fixtures found; its
+    // header findings (names, groups) repeat this one's and are dropped.
+    void append(Mapper &&later);
 };
+
+void Mapper::append(Mapper &&later)
+{
+    for (auto it = later.torvoverses.begin(); it != later.torvoverses.end(); ++it) {
+        Torvoverse &t = torvoverses[it.key()];
+        if (t.torvoverseName.isEmpty())
+            t = std::move(it.value());
+        else
+            t.fixtures.append(std::move(it.value().fixtures));
+    }
+    const Findings &f = later.findings;
+    findings.oddValues.addAll(f.oddValues);
+    findings.rotatedMultiPixel += f.rotatedMultiPixel;
+    findings.ignoredChannels.addAll(f.ignoredChannels);
+    findings.widePixels += f.widePixels;
+    findings.past512 += f.past512;
+    findings.dvi += f.dvi;
+    findings.noColour += f.noColour;
+    findings.badUniverse += f.badUniverse;
+    findings.incomplete += f.incomplete;
+}
 
 void Mapper::map(const RawFixture &raw)
 {
@@ -211,7 +241,7 @@ void Mapper::map(const RawFixture &raw)
 
     qint64 rotation = 0;
     if (!raw.rotation.trimmed().isEmpty() && !toInteger(raw.rotation, &rotation)) {
-        findings.unsupported.add(QStringLiteral("fixture_settings/rotation=%1").arg(raw.rotation.trimmed()));
+        findings.oddValues.add(QStringLiteral("fixture_settings/rotation=%1").arg(raw.rotation.trimmed()));
         rotation = 0;
     }
     const int quarterTurns = int(rotation & 3);
@@ -301,19 +331,14 @@ bool isNamed(const QXmlStreamReader &xml, const char *name)
 
 // Reads the document start to end, handing every complete fixture to the
 // mapper at once so only one raw fixture is held at a time.
-ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
+ParsedFile parseXml(QIODevice *device, Mapper &mapper)
 {
     static const char *const kUnsupported[] = {
         "product",           "save_date",          "authentication_list",
         "is_patched",        "matrix_preferences", "virtual_matrix_preferences",
         "fixture_group_list"};
     ParsedFile parsed;
-    // Through a device the reader decodes a few kilobytes at a time instead of
-    // turning the whole document into one string first: faster, and half the memory.
-    QBuffer device;
-    device.setData(xmlBytes);
-    device.open(QIODevice::ReadOnly);
-    QXmlStreamReader xml(&device);
+    QXmlStreamReader xml(device);
     QVector<Tag> stack;
     bool sawRoot = false;
     bool sawList = false;
@@ -449,6 +474,46 @@ ParsedFile parseXml(const QByteArray &xmlBytes, Mapper &mapper)
     return parsed;
 }
 
+// Large patches are parsed on two threads: the document is read twice, once
+// with the second half of the fixture list cut out and once with the first
+// half cut out, each with the full header and tail. The cut is made before a
+// "<fixture>" start tag in the middle of the only <fixture_list>; a cut that
+// is not between two fixtures (inside a comment, a CDATA section or a nested
+// element) leaves one half malformed, and any failure falls back to a single
+// pass, which also gives the exact error. Documents with a DTD are never split
+// (entity definitions would have to be seen by both halves).
+bool parseInTwoHalves(const QByteArray &xml, Mapper &mapper, ParsedFile &parsed)
+{
+    if (xml.size() < kTwoHalvesBytes || QThread::idealThreadCount() < 2 || xml.contains("<!DOCTYPE") ||
+        xml.contains("<!ENTITY"))
+        return false;
+    const QByteArrayView open("<fixture_list>");
+    const QByteArrayView close("</fixture_list>");
+    const qsizetype listStart = xml.indexOf(open);
+    const qsizetype listEnd = xml.lastIndexOf(close);
+    if (listStart < 0 || listEnd < 0 || xml.indexOf("<fixture_list", listStart + 1) >= 0 ||
+        xml.indexOf(close) != listEnd)
+        return false;
+    const qsizetype contentStart = listStart + open.size();
+    const qsizetype cut = xml.indexOf("<fixture>", contentStart + (listEnd - contentStart) / 2);
+    if (cut < 0 || cut >= listEnd)
+        return false;
+
+    Mapper later;
+    ParsedFile laterParsed;
+    std::thread worker([&xml, &later, &laterParsed, contentStart, cut]() {
+        SpliceDevice device(xml, {0, contentStart}, {cut, xml.size()});
+        laterParsed = parseXml(&device, later);
+    });
+    SpliceDevice device(xml, {0, cut}, {listEnd, xml.size()});
+    parsed = parseXml(&device, mapper);
+    worker.join();
+    if (!parsed.ok || !laterParsed.ok)
+        return false;
+    mapper.append(std::move(later));
+    return true;
+}
+
 PatchLoadResult emptyResult(const QString &sourcePath)
 {
     PatchLoadResult result;
@@ -468,10 +533,12 @@ PatchLoadResult unreadable(const QString &fileName, const QString &sourcePath, c
 
 void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
 {
-    if (!f.unsupported.isEmpty())
+    OrderedNames ignoredFields = f.unsupported;
+    ignoredFields.addAll(f.oddValues);
+    if (!ignoredFields.isEmpty())
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "Some MADRIX fields are not supported yet and were ignored: %1"),
-            {f.unsupported.joined()}));
+            {ignoredFields.joined()}));
     if (f.groups > 0)
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 MADRIX fixture group(s) were found, but groups "
@@ -536,7 +603,16 @@ PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fil
     }
 
     Mapper mapper;
-    const ParsedFile parsed = parseXml(xmlBytes, mapper);
+    ParsedFile parsed;
+    if (!parseInTwoHalves(xmlBytes, mapper, parsed)) {
+        // Through a device the reader decodes a few kilobytes at a time instead of
+        // turning the whole document into one string first: faster, and half the memory.
+        mapper = Mapper();
+        QBuffer device;
+        device.setData(xmlBytes);
+        device.open(QIODevice::ReadOnly);
+        parsed = parseXml(&device, mapper);
+    }
     if (!parsed.ok)
         return unreadable(fileName, sourcePath, parsed.error);
 

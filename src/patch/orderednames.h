@@ -18,6 +18,11 @@ public:
         m_seen.insert(name);
         m_names.append(name);
     }
+    void addAll(const OrderedNames &other)
+    {
+        for (const QString &name : other.m_names)
+            add(name);
+    }
     bool isEmpty() const { return m_names.isEmpty(); }
     QString joined() const { return m_names.join(QStringLiteral(", ")); }
 

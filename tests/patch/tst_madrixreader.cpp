@@ -99,6 +99,8 @@ private slots:
     void gzipBombStopsAtTheLimit();
     void hostileXmlIsBounded_data();
     void hostileXmlIsBounded();
+    void largePatchReadsAsInOnePass_data();
+    void largePatchReadsAsInOnePass();
     void loaderSniffsMadrix();
 };
 
@@ -494,6 +496,56 @@ void TestMadrixReader::hostileXmlIsBounded()
     QCOMPARE(r.ok, ok);
     QVERIFY(!r.error.isEmpty());
     qInfo("%s in %lld ms", qPrintable(r.error.untranslatedText().left(160)), timer.elapsed());
+}
+
+// Large documents are read in two halves on two threads; the result must be
+// the single pass's, fixture for fixture and warning for warning. A document
+// type declaration keeps a document in one pass, which gives the reference.
+void TestMadrixReader::largePatchReadsAsInOnePass_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    MadrixSample s = makeMadrixMatrix(6000, 80);
+    s.product = QStringLiteral("MADRIX 5.7");
+    s.fixtureGroups = 2;
+    for (int i : {10, 2999, 3001, 5990}) {
+        s.fixtures[i].rotation = QStringLiteral("r%1").arg(i);
+        s.fixtures[i].channels.append(channel(i < 3000 ? "Amber" : "UV", 3, 4 + i % 3));
+        s.fixtures[i + 1].universe = QStringLiteral("0");
+    }
+    const QByteArray xml = writeMadrixXml(s);
+    QVERIFY(xml.size() > 4 * 1024 * 1024);
+    QTest::newRow("between fixtures") << xml;
+    // The middle "<fixture>" sits in a comment: the halves do not parse and the single pass takes over.
+    QByteArray commented = xml;
+    const qsizetype middle = commented.indexOf("<fixture>", commented.size() / 2);
+    commented.insert(middle,
+                     "<!-- a <fixture> mentioned in passing --><fixture><fixture_specification/></fixture>");
+    QTest::newRow("cut inside a comment") << commented;
+}
+
+void TestMadrixReader::largePatchReadsAsInOnePass()
+{
+    QFETCH(QByteArray, xml);
+    QByteArray onePass = xml;
+    onePass.replace("<madrix_patch", "<!DOCTYPE madrix_patch><madrix_patch");
+    const PatchLoadResult split = parseMadrixPatch(xml, kFile, kFile);
+    const PatchLoadResult single = parseMadrixPatch(onePass, kFile, kFile);
+    QVERIFY(split.ok);
+    QVERIFY(single.ok);
+    QCOMPARE(warningTexts(split), warningTexts(single));
+    QVERIFY(warningTexts(split).join(u'|').contains(QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
+    const QVector<Torvoverse> &a = split.patch.groups.first().torvoverses;
+    const QVector<Torvoverse> &b = single.patch.groups.first().torvoverses;
+    QCOMPARE(a.size(), b.size());
+    for (qsizetype t = 0; t < a.size(); ++t) {
+        QCOMPARE(a.at(t).torvoverseName, b.at(t).torvoverseName);
+        QCOMPARE(a.at(t).fixtures.size(), b.at(t).fixtures.size());
+        for (qsizetype f = 0; f < a.at(t).fixtures.size(); ++f) {
+            QCOMPARE(a.at(t).fixtures.at(f).fixtureName, b.at(t).fixtures.at(f).fixtureName);
+            QCOMPARE(a.at(t).fixtures.at(f).leds.first().address,
+                     b.at(t).fixtures.at(f).leds.first().address);
+        }
+    }
 }
 
 void TestMadrixReader::loaderSniffsMadrix()
