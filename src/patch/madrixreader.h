@@ -15,7 +15,8 @@ constexpr double kMadrixVoxelSize = 10.0;
 
 // Reads a MADRIX 5 patch (.mpz: plain or gzip-compressed XML) into one group
 // "MADRIX" with one torvoverse per Port-Address (ascending). Never throws.
-// Any thread.
+// Any thread; a document of several megabytes is parsed as two halves, the
+// second on a thread of its own that ends before the call returns.
 PatchLoadResult readMadrixPatch(const QString &path);
 
 // The same from bytes already read; fileName names the file in messages.
