@@ -4,6 +4,7 @@
 #include "patch/importreport.h"
 #include "patch/patchloader.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 
 namespace {
@@ -15,7 +16,8 @@ QString writeReport(const QString &path, const TPatch::PatchLoadResult &result, 
     const QString folder = logs.isEmpty() ? TPatch::importLogsFolder() : logs;
     const TPatch::ImportReportResult report =
         folder.isEmpty() ? TPatch::ImportReportResult{false, false, {}, QStringLiteral("no writable logs folder")}
-                         : TPatch::writeImportReport(folder, path, result, QStringLiteral("English"));
+                         : TPatch::writeImportReport(folder, QFileInfo(path).absoluteFilePath(), result,
+                                                     QStringLiteral("English"));
     if (!report.ok)
         printErr(QStringLiteral("talu-cli patch: the report could not be written: ") + report.error);
     return report.ok ? report.folder : QString();
