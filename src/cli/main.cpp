@@ -1,6 +1,7 @@
 #include "cli/clicommon.h"
 #include "cli/generatecommand.h"
 #include "cli/patchcommand.h"
+#include "cli/recordingcommand.h"
 
 #include <QCoreApplication>
 
@@ -17,7 +18,8 @@ struct Command
 
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
-    {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
+    {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
+    {"generate", "write sample files (demo patch, demo recording) made by our generators", runGenerateCommand},
 };
 
 QString usage()
