@@ -138,8 +138,11 @@ bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
                                   ? m_recordsInFrame >= m_recordsPerFrame
                                   : m_universesInFrame.test(portAddress)
                                         || (m_recordTimer.isValid() && m_recordTimer.nsecsElapsed() > kFrameGapNs);
-        if (boundary)
+        if (boundary) {
             beginFrame();
+            if (failed())
+                return false;
+        }
     }
 
     const int headerBytes = headerSize(m_flavour);
