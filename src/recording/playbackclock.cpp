@@ -133,7 +133,9 @@ void PlaybackClock::play()
         return;
     m_running = true;
     m_tickPending = false; // a tick left unanswered by the last run must not block this one
-    start();
+    // Above the GUI so that a busy interface does not delay the wake-up before
+    // a deadline; the thread sleeps most of each period, so it takes little.
+    start(QThread::HighestPriority);
 }
 
 void PlaybackClock::stop()
