@@ -64,7 +64,9 @@ struct Figures
 Figures figures(QVector<qint64> lateNs)
 {
     std::sort(lateNs.begin(), lateNs.end());
-    const auto at = [&](double q) { return lateNs.at(std::min<qsizetype>(lateNs.size() - 1, qsizetype(q * lateNs.size()))) / 1e6; };
+    const auto at = [&](double q) {
+        return lateNs.at(std::min<qsizetype>(lateNs.size() - 1, qsizetype(q * lateNs.size()))) / 1e6;
+    };
     return {at(0.5), at(0.9), at(0.99)};
 }
 
@@ -81,10 +83,13 @@ Figures runClock(double fps, int ticks, bool yields)
     QVector<qint64> late;
     late.reserve(ticks);
     QObject context;
-    QObject::connect(&clock, &PlaybackClock::tick, &context, [&](qint64 frame) {
-        late.append(timer.nsecsElapsed() - (observed->base() + (frame + 1) * period));
-        clock.acknowledge();
-    }, Qt::DirectConnection);
+    QObject::connect(
+        &clock, &PlaybackClock::tick, &context,
+        [&](qint64 frame) {
+            late.append(timer.nsecsElapsed() - (observed->base() + (frame + 1) * period));
+            clock.acknowledge();
+        },
+        Qt::DirectConnection);
     clock.play();
     clock.wait();
     return figures(late);
@@ -132,13 +137,14 @@ int main(int argc, char *argv[])
         std::printf("%3.0f fps, %d ticks: PlaybackClock median %.3f ms, p90 %.3f ms, p99 %.3f ms | "
                     "QTimer(PreciseTimer, %d ms) median %.3f ms, p90 %.3f ms, p99 %.3f ms   "
                     "target p99 < 0.5 ms and below the timer's   %s\n",
-                    fps, ticks, clock.medianMs, clock.p90Ms, clock.p99Ms, intervalMs, qtimer.medianMs, qtimer.p90Ms,
-                    qtimer.p99Ms, met ? "met" : "MISSED");
+                    fps, ticks, clock.medianMs, clock.p90Ms, clock.p99Ms, intervalMs, qtimer.medianMs,
+                    qtimer.p90Ms, qtimer.p99Ms, met ? "met" : "MISSED");
         if (spinVariant) {
             const Figures spin = runClock(fps, ticks, false);
-            std::printf("%3.0f fps, %d ticks: PlaybackClock spinning without yields: median %.3f ms, p90 %.3f ms, "
-                        "p99 %.3f ms (comparison only)\n",
-                        fps, ticks, spin.medianMs, spin.p90Ms, spin.p99Ms);
+            std::printf(
+                "%3.0f fps, %d ticks: PlaybackClock spinning without yields: median %.3f ms, p90 %.3f ms, "
+                "p99 %.3f ms (comparison only)\n",
+                fps, ticks, spin.medianMs, spin.p90Ms, spin.p99Ms);
         }
         std::fflush(stdout);
     }

@@ -50,7 +50,8 @@ int loadOnce(const QString &path)
     const RecordingLoadResult result = rec.load(path);
     const qint64 ns = timer.nsecsElapsed();
     const qint64 after = peakRssBytes();
-    std::printf("%lld %lld %lld %lld %d\n", ns, before, after, qint64(rec.records().size()), result.ok ? 1 : 0);
+    std::printf("%lld %lld %lld %lld %d\n", ns, before, after, qint64(rec.records().size()),
+                result.ok ? 1 : 0);
     return result.ok ? 0 : 1;
 }
 
@@ -95,8 +96,8 @@ int main(int argc, char *argv[])
     writer.close();
     const double writeSeconds = double(timer.nsecsElapsed()) / 1e9;
     const double recordsPerSecond = double(records) / writeSeconds;
-    std::printf("writer: %lld records (%.0f MiB) in %.2f s = %.0f records/s   target >= 500000   %s\n", records,
-                double(writer.fileSize()) / 1048576.0, writeSeconds, recordsPerSecond,
+    std::printf("writer: %lld records (%.0f MiB) in %.2f s = %.0f records/s   target >= 500000   %s\n",
+                records, double(writer.fileSize()) / 1048576.0, writeSeconds, recordsPerSecond,
                 recordsPerSecond >= 500000 ? "met" : "MISSED");
 
     // Warm the page cache, then take the best of a few runs of each.
@@ -124,12 +125,15 @@ int main(int argc, char *argv[])
     }
     const qint64 fileSize = QFileInfo(path).size();
     const double ratio = double(loadNs) / double(catNs);
-    std::printf("load:   %.1f ms for %.0f MiB (%lld records); cat %.1f ms; ratio %.2f   target <= 1.50   %s\n",
-                loadNs / 1e6, fileSize / 1048576.0, loaded, catNs / 1e6, ratio, ratio <= 1.5 ? "met" : "MISSED");
+    std::printf(
+        "load:   %.1f ms for %.0f MiB (%lld records); cat %.1f ms; ratio %.2f   target <= 1.50   %s\n",
+        loadNs / 1e6, fileSize / 1048576.0, loaded, catNs / 1e6, ratio, ratio <= 1.5 ? "met" : "MISSED");
     const qint64 budget = fileSize + 24 * loaded;
-    std::printf("memory: peak grew by %.1f MiB during the load (process peak %.1f MiB); budget file + 24 B/record "
-                "= %.1f MiB   %s\n",
-                peakDelta / 1048576.0, peakTotal / 1048576.0, budget / 1048576.0, peakDelta <= budget ? "met" : "MISSED");
+    std::printf(
+        "memory: peak grew by %.1f MiB during the load (process peak %.1f MiB); budget file + 24 B/record "
+        "= %.1f MiB   %s\n",
+        peakDelta / 1048576.0, peakTotal / 1048576.0, budget / 1048576.0,
+        peakDelta <= budget ? "met" : "MISSED");
     QFile::remove(path);
     return 0;
 }

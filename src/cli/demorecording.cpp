@@ -30,13 +30,18 @@ QColor waveColour(double x, int group, double t)
 quint8 roleValue(quint8 role, const QColor &c)
 {
     switch (role) {
-    case RoleRed: return quint8(c.red());
-    case RoleGreen: return quint8(c.green());
-    case RoleBlue: return quint8(c.blue());
+    case RoleRed:
+        return quint8(c.red());
+    case RoleGreen:
+        return quint8(c.green());
+    case RoleBlue:
+        return quint8(c.blue());
     case RoleWhite:
     case RoleCoolWhite:
-    case RoleWarmWhite: return quint8(std::min({c.red(), c.green(), c.blue()}) / 2);
-    default: return 0;
+    case RoleWarmWhite:
+        return quint8(std::min({c.red(), c.green(), c.blue()}) / 2);
+    default:
+        return 0;
     }
 }
 

@@ -10,13 +10,15 @@ int runRecordingCommand(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Loads a .tpx recording the way the program does, optionally against a patch, and prints its layout.\n"
+        "Loads a .tpx recording the way the program does, optionally against a patch, and prints its "
+        "layout.\n"
         "\n"
         "With --json, one object:\n"
         "  ok                 bool, whether the recording loaded\n"
         "  error              text of the error, or null\n"
         "  warnings           array of warning texts, in order\n"
-        "  format             the format label (\"Art-Net\", \"KEL (name)\", \"KEL\", each maybe + \" GPS-Sync\")\n"
+        "  format             the format label (\"Art-Net\", \"KEL (name)\", \"KEL\", each maybe + \" "
+        "GPS-Sync\")\n"
         "  records            number of records indexed\n"
         "  recordsPerFrame    records that make one frame\n"
         "  frames             complete frames\n"
@@ -31,8 +33,9 @@ int runRecordingCommand(const QStringList &arguments)
     const QCommandLineOption patchOption(QStringLiteral("patch"),
                                          QStringLiteral("Check the recording against this patch."),
                                          QStringLiteral("PATCH"));
-    const QCommandLineOption quiet(QStringLiteral("quiet"),
-                                   QStringLiteral("Load as a member of a GPS-Sync set (no one-group warning)."));
+    const QCommandLineOption quiet(
+        QStringLiteral("quiet"),
+        QStringLiteral("Load as a member of a GPS-Sync set (no one-group warning)."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOption(patchOption);
     parser.addOption(quiet);

@@ -14,8 +14,8 @@ struct GpsMetadataBlock
     static constexpr int kMaxUniverses = 64;
 
     quint64 frameByteSize = 0; // bytes of one frame on disk, headers and timestamps included
-    quint32 frameCount = 0;    // written when the sibling controller stops recording; 0 or stale if never closed
-    quint8 universeCount = 0;  // records per frame, meaningful from 1 to 64
+    quint32 frameCount = 0; // written when the sibling controller stops recording; 0 or stale if never closed
+    quint8 universeCount = 0;                                // records per frame, meaningful from 1 to 64
     std::array<quint16, kMaxUniverses> universeByteLength{}; // on-disk size of each record of a frame
 
     bool universeCountUsable() const { return universeCount >= 1 && universeCount <= kMaxUniverses; }

@@ -6,8 +6,8 @@
 #include <cmath>
 
 #ifdef Q_OS_WIN
-#include <windows.h>
 #include <timeapi.h>
+#include <windows.h>
 #endif
 
 namespace {
@@ -25,9 +25,9 @@ constexpr int kSlowWindowsForWarning = 2;
 
 struct PlaybackClock::RunState
 {
-    qint64 base = 0;     // time the frame count n is counted from
-    qint64 n = 0;        // frames since base
-    double fps = 0;      // the rate base and period belong to
+    qint64 base = 0; // time the frame count n is counted from
+    qint64 n = 0;    // frames since base
+    double fps = 0;  // the rate base and period belong to
     qint64 period = 0;
     qint64 deadline = 0;
 };

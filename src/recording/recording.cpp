@@ -34,9 +34,18 @@ constexpr qint64 kPrefetchTo = 8;
 
 const char kArtNetId[8] = {'A', 'r', 't', '-', 'N', 'e', 't', '\0'};
 
-bool hasId(const char *at) { return std::memcmp(at, kArtNetId, sizeof kArtNetId) == 0; }
-quint16 le16(const char *at) { return qFromLittleEndian<quint16>(at); }
-quint16 be16(const char *at) { return qFromBigEndian<quint16>(at); }
+bool hasId(const char *at)
+{
+    return std::memcmp(at, kArtNetId, sizeof kArtNetId) == 0;
+}
+quint16 le16(const char *at)
+{
+    return qFromLittleEndian<quint16>(at);
+}
+quint16 be16(const char *at)
+{
+    return qFromBigEndian<quint16>(at);
+}
 
 // The record shape that starts at p, checking only what fits in the bytes
 // left: the ID and OpCode of a plain ArtDmx at p, else of a KEL packet at p + 12.
@@ -47,7 +56,8 @@ bool recordAt(const char *data, qint64 size, qint64 p, RecordFlavour *flavour)
         *flavour = RecordFlavour::ArtNet;
         return true;
     }
-    if (r >= kKelHeaderSize && hasId(data + p + kKelPrefixSize) && le16(data + p + kKelPrefixSize + 8) == kOpKelDmx) {
+    if (r >= kKelHeaderSize && hasId(data + p + kKelPrefixSize) &&
+        le16(data + p + kKelPrefixSize + 8) == kOpKelDmx) {
         *flavour = RecordFlavour::Kel;
         return true;
     }
@@ -77,8 +87,9 @@ inline void prefetch(const char *data, qint64 size, qint64 p)
 // Walks the records from p while they have the file's flavour and fit in the
 // file, calling onRecord for each. Returns where the walk ended; *clean tells
 // whether it reached the end of the file (at most two stray bytes left).
-template<typename OnRecord>
-qint64 walk(const char *data, qint64 size, qint64 p, RecordFlavour fileFlavour, bool *clean, OnRecord onRecord)
+template <typename OnRecord>
+qint64 walk(const char *data, qint64 size, qint64 p, RecordFlavour fileFlavour, bool *clean,
+            OnRecord onRecord)
 {
     *clean = false;
     for (;;) {
@@ -137,7 +148,8 @@ bool Recording::findFirstRecord()
         const qint64 r = size - o;
         if (o + 19 < size && r > 17 && hasId(data + o) && le16(data + o + 8) == kOpArtDmx) {
             m_flavour = RecordFlavour::ArtNet;
-        } else if (r > 29 && hasId(data + o + kKelPrefixSize) && le16(data + o + kKelPrefixSize + 8) == kOpKelDmx) {
+        } else if (r > 29 && hasId(data + o + kKelPrefixSize) &&
+                   le16(data + o + kKelPrefixSize + 8) == kOpKelDmx) {
             m_flavour = RecordFlavour::Kel;
             const char *name = data + o + 2;
             m_kelDeviceName = QString::fromLatin1(name, qsizetype(qstrnlen(name, kKelNameSize)));
@@ -161,8 +173,8 @@ bool Recording::walkRecords(RecordingLoadResult *result, const QString &fileName
     // records as the file holds if they all have the first record's size,
     // which is exact for every recording a controller makes (it sends whole
     // universes); a file whose records shrink later grows the index.
-    const qint64 firstSize = headerSize(m_flavour) + be16(data + m_firstRecordOffset + headerSize(m_flavour) - 2)
-                             + kTimestampSize;
+    const qint64 firstSize =
+        headerSize(m_flavour) + be16(data + m_firstRecordOffset + headerSize(m_flavour) - 2) + kTimestampSize;
     m_records.reserve((size - m_firstRecordOffset) / firstSize + 1);
 
     bool clean = false;
@@ -174,16 +186,21 @@ bool Recording::walkRecords(RecordingLoadResult *result, const QString &fileName
             m_universes.append(ref.universe);
         }
     });
+    // A short first record in front of long ones overestimates: give the rest back.
+    if (m_records.capacity() > m_records.size() + m_records.size() / 4 + 1024)
+        m_records.squeeze();
     m_parsedBytes = end - m_firstRecordOffset;
     if (clean)
         return true;
     if (m_records.isEmpty()) {
-        result->error = PatchMessage("\"%1\" contains no usable DMX records.", {fileName});
+        result->error =
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no usable DMX records."), {fileName});
         return false;
     }
-    result->warnings.append(PatchMessage("Stopped parsing at byte %1 of %2 - the file is truncated or contains a "
-                                         "record this reader does not understand. %3 record(s) were usable.",
-                                         {end, size, qint64(m_records.size())}));
+    result->warnings.append(PatchMessage(
+        QT_TRANSLATE_NOOP("TPatch", "Stopped parsing at byte %1 of %2 - the file is truncated or contains a "
+                                    "record this reader does not understand. %3 record(s) were usable."),
+        {end, size, qint64(m_records.size())}));
     return true;
 }
 
@@ -219,9 +236,11 @@ void Recording::matchPatch(const TPatch::PatchData &patch, RecordingLoadResult *
         m_recordsPerFrame = qint32(k);
     } else {
         result->warnings.append(PatchMessage(
-            "This recording does not match the loaded patch: the patch expects %1 record(s) per frame in a fixed "
-            "order, but the file repeats every %2. Playback will follow the file and map records by universe "
-            "number, which cannot separate devices that share a universe.",
+            QT_TRANSLATE_NOOP("TPatch", "This recording does not match the loaded patch: the patch expects "
+                                        "%1 record(s) per frame in a fixed "
+                                        "order, but the file repeats every %2. Playback will follow the file "
+                                        "and map records by universe "
+                                        "number, which cannot separate devices that share a universe."),
             {k, qint64(m_detectedPeriod)}));
     }
     // Literally "the frame layout has the patch's size": a file of another
@@ -235,13 +254,17 @@ RecordingLoadResult Recording::load(const QString &path, const TPatch::PatchData
     reset();
     const QString fileName = QFileInfo(path).fileName();
     if (!m_bytes.load(path))
-        return fail(PatchMessage("Could not open \"%1\": %2", {fileName, m_bytes.errorString()}));
+        return fail(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"),
+                                 {fileName, m_bytes.errorString()}));
     if (m_bytes.size() < kMinFileSize)
-        return fail(PatchMessage("\"%1\" is too small to contain a single record.", {fileName}));
+        return fail(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "\"%1\" is too small to contain a single record."), {fileName}));
     if (!findFirstRecord())
-        return fail(PatchMessage("\"%1\" does not start with an Art-Net or KEL DMX record. It is not a Torvane "
-                                 "recording, or it is damaged.",
-                                 {fileName}));
+        return fail(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch",
+                              "\"%1\" does not start with an Art-Net or KEL DMX record. It is not a Torvane "
+                              "recording, or it is damaged."),
+            {fileName}));
 
     RecordingLoadResult result;
     if (!walkRecords(&result, fileName))
@@ -256,13 +279,16 @@ RecordingLoadResult Recording::load(const QString &path, const TPatch::PatchData
         if (m_bytes.size() > kGpsBlockSize - 1)
             m_gpsBlock = QByteArray(m_bytes.data(), kGpsBlockSize);
         GpsMetadataBlock block;
-        if (GpsMetadataBlock::parse(m_gpsBlock, &block) && block.universeCountUsable() && block.universeCount <= n)
+        if (GpsMetadataBlock::parse(m_gpsBlock, &block) && block.universeCountUsable() &&
+            block.universeCount <= n)
             m_recordsPerFrame = block.universeCount;
         if (!quiet)
-            result.warnings.append(PatchMessage(
-                "GPS-Sync recording: this file holds one group's universes only. Records are mapped by universe "
-                "number, so pixels outside that group stay dark. Use the GPS Mirra tab to play a full set of group "
-                "files together."));
+            result.warnings.append(
+                PatchMessage(QT_TRANSLATE_NOOP("TPatch", "GPS-Sync recording: this file holds one group's "
+                                                         "universes only. Records are mapped by universe "
+                                                         "number, so pixels outside that group stay dark. "
+                                                         "Use the GPS Mirra tab to play a full set of group "
+                                                         "files together.")));
         m_matchesPatch = false;
     } else if (patch) {
         matchPatch(*patch, &result);
@@ -271,13 +297,16 @@ RecordingLoadResult Recording::load(const QString &path, const TPatch::PatchData
     if (m_recordsPerFrame > 1) {
         m_frameCount = n / m_recordsPerFrame;
         if (const qint64 rest = n % m_recordsPerFrame)
-            result.warnings.append(PatchMessage("%1 trailing record(s) do not form a complete frame and are ignored.",
-                                                {rest}));
+            result.warnings.append(PatchMessage(
+                QT_TRANSLATE_NOOP("TPatch",
+                                  "%1 trailing record(s) do not form a complete frame and are ignored."),
+                {rest}));
     } else {
         m_frameCount = n;
     }
     if (m_frameCount <= 0)
-        return fail(PatchMessage("\"%1\" does not contain a complete frame.", {fileName}));
+        return fail(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "\"%1\" does not contain a complete frame."),
+                                 {fileName}));
 
     m_path = path;
     result.ok = true;

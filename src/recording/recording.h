@@ -29,7 +29,8 @@ public:
 
     // Loads and indexes a file. patch may be null; quiet drops the
     // one-group GPS-Sync warning (set when the file is one member of a set).
-    RecordingLoadResult load(const QString &path, const TPatch::PatchData *patch = nullptr, bool quiet = false);
+    RecordingLoadResult load(const QString &path, const TPatch::PatchData *patch = nullptr,
+                             bool quiet = false);
     void reset();
 
     // The record of a frame's slot, or an all-zero reference when out of range.

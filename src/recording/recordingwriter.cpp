@@ -45,6 +45,7 @@ bool RecordingWriter::open(OpenMode mode)
 bool RecordingWriter::open(const QString &path, int frameRate, int recordsPerFrame)
 {
     close();
+    m_failure.clear();
     m_path = path;
     const QFileInfo info(path);
     m_sizeAtOpen = info.exists() ? info.size() : 0;
@@ -54,7 +55,6 @@ bool RecordingWriter::open(const QString &path, int frameRate, int recordsPerFra
         return false;
     }
     m_lastError.clear();
-    m_failure.clear();
     m_recordsWritten = 0;
     m_framesWritten = 0;
     m_bytesWritten = 0;
@@ -77,8 +77,8 @@ void RecordingWriter::setSource(RecordFlavour flavour, const QString &kelDeviceN
     m_kelName = kelNameBytes(kelDeviceName);
 }
 
-void RecordingWriter::fillHeader(char *out, RecordFlavour flavour, const QByteArray &kelName, quint16 portAddress,
-                                 quint16 length)
+void RecordingWriter::fillHeader(char *out, RecordFlavour flavour, const QByteArray &kelName,
+                                 quint16 portAddress, quint16 length)
 {
     quint16 opCode = kOpArtDmx;
     if (flavour == RecordFlavour::Kel) {
@@ -93,8 +93,8 @@ void RecordingWriter::fillHeader(char *out, RecordFlavour flavour, const QByteAr
     out[9] = char(opCode >> 8);
     out[10] = kProtocolHi;
     out[11] = kProtocolLo;
-    out[12] = 0; // sequence: never preserved
-    out[13] = 0; // physical
+    out[12] = 0;                        // sequence: never preserved
+    out[13] = 0;                        // physical
     out[14] = char(portAddress & 0xFF); // SubUni
     out[15] = char(portAddress >> 8);   // Net
     out[16] = char(length >> 8);        // big-endian, as on the wire
@@ -134,10 +134,10 @@ bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
     const auto length = quint16(std::min<qsizetype>(data.size(), kMaxDmxLength));
 
     if (m_recordsInFrame > 0) {
-        const bool boundary = m_recordsPerFrame >= 1
-                                  ? m_recordsInFrame >= m_recordsPerFrame
-                                  : m_universesInFrame.test(portAddress)
-                                        || (m_recordTimer.isValid() && m_recordTimer.nsecsElapsed() > kFrameGapNs);
+        const bool boundary = m_recordsPerFrame >= 1 ? m_recordsInFrame >= m_recordsPerFrame
+                                                     : m_universesInFrame.test(portAddress) ||
+                                                           (m_recordTimer.isValid() &&
+                                                            m_recordTimer.nsecsElapsed() > kFrameGapNs);
         if (boundary) {
             beginFrame();
             if (failed())

@@ -15,7 +15,8 @@ struct RecordRef
     bool isNull() const { return headerSize == 0; }
     bool operator==(const RecordRef &o) const
     {
-        return dataOffset == o.dataOffset && length == o.length && universe == o.universe && headerSize == o.headerSize;
+        return dataOffset == o.dataOffset && length == o.length && universe == o.universe &&
+               headerSize == o.headerSize;
     }
 };
 static_assert(sizeof(RecordRef) == 16, "RecordRef is kept small: one per record of a file of any size");

@@ -45,14 +45,19 @@ class TestPlaybackClock : public QObject
     {
         Run run;
         QObject context;
-        connect(&clock, &PlaybackClock::tick, &context, [&](qint64 frame) {
-            run.frames.append(frame);
-            run.times.append(time->nowNs());
-            onTick(frame, int(run.frames.size()));
-        }, Qt::DirectConnection);
-        connect(&clock, &PlaybackClock::finished_, &context, [&] { ++run.finished; }, Qt::DirectConnection);
-        connect(&clock, &PlaybackClock::performanceWarning, &context, [&](double fps) { run.warnings.append(fps); },
-                Qt::DirectConnection);
+        connect(
+            &clock, &PlaybackClock::tick, &context,
+            [&](qint64 frame) {
+                run.frames.append(frame);
+                run.times.append(time->nowNs());
+                onTick(frame, int(run.frames.size()));
+            },
+            Qt::DirectConnection);
+        connect(
+            &clock, &PlaybackClock::finished_, &context, [&] { ++run.finished; }, Qt::DirectConnection);
+        connect(
+            &clock, &PlaybackClock::performanceWarning, &context,
+            [&](double fps) { run.warnings.append(fps); }, Qt::DirectConnection);
         clock.play();
         const bool ended = clock.wait(QDeadlineTimer(60'000));
         if (!ended) {
@@ -203,7 +208,8 @@ private slots:
             clock->acknowledge();
         });
         QCOMPARE(run.warnings.size(), 1);
-        QVERIFY2(run.warnings.at(0) > 60 && run.warnings.at(0) < 70, qPrintable(QString::number(run.warnings.at(0))));
+        QVERIFY2(run.warnings.at(0) > 60 && run.warnings.at(0) < 70,
+                 qPrintable(QString::number(run.warnings.at(0))));
         QVERIFY(clock->measuredFps() < 70);
         QCOMPARE(run.finished, 1);
     }

@@ -9,28 +9,27 @@
 namespace {
 
 // One plain ArtDmx record, Port-Address 0x0102, two slots, timestamp 0x0304.
-const QByteArray kGoldenArtNet = QByteArray::fromHex(
-    "4172742d4e657400" // "Art-Net\0"
-    "0050"             // OpCode 0x5000, little-endian
-    "000e"             // protocol version 14
-    "07"               // sequence (not read)
-    "00"               // physical
-    "0201"             // Port-Address 0x0102: SubUni 0x02, Net 0x01
-    "0002"             // data length 2, big-endian
-    "ff80"             // DMX slots
-    "0403");           // timestamp 0x0304, little-endian
+const QByteArray kGoldenArtNet = QByteArray::fromHex("4172742d4e657400" // "Art-Net\0"
+                                                     "0050"             // OpCode 0x5000, little-endian
+                                                     "000e"             // protocol version 14
+                                                     "07"               // sequence (not read)
+                                                     "00"               // physical
+                                                     "0201"   // Port-Address 0x0102: SubUni 0x02, Net 0x01
+                                                     "0002"   // data length 2, big-endian
+                                                     "ff80"   // DMX slots
+                                                     "0403"); // timestamp 0x0304, little-endian
 
 // One KEL record from device "KEL6S-A", Port-Address 5, three slots, timestamp 1.
-const QByteArray kGoldenKel = QByteArray::fromHex(
-    "0100"                 // prefix, not interpreted
-    "4b454c36532d41000000" // device name "KEL6S-A", zero-padded to 10 bytes
-    "4172742d4e657400"     // "Art-Net\0"
-    "0053"                 // OpCode 0x5300
-    "000e0000"             // protocol version, sequence, physical
-    "0500"                 // Port-Address 5
-    "0003"                 // data length 3
-    "010203"               // DMX slots
-    "0100");               // timestamp 1
+const QByteArray kGoldenKel =
+    QByteArray::fromHex("0100"                 // prefix, not interpreted
+                        "4b454c36532d41000000" // device name "KEL6S-A", zero-padded to 10 bytes
+                        "4172742d4e657400"     // "Art-Net\0"
+                        "0053"                 // OpCode 0x5300
+                        "000e0000"             // protocol version, sequence, physical
+                        "0500"                 // Port-Address 5
+                        "0003"                 // data length 3
+                        "010203"               // DMX slots
+                        "0100");               // timestamp 1
 
 QByteArray artDmx(quint16 universe, int length = 4, quint16 stamp = 0)
 {
@@ -72,7 +71,8 @@ QStringList texts(const QVector<TPatch::PatchMessage> &messages)
 }
 
 const QString kGpsWarning = QStringLiteral(
-    "GPS-Sync recording: this file holds one group's universes only. Records are mapped by universe number, so "
+    "GPS-Sync recording: this file holds one group's universes only. Records are mapped by universe number, "
+    "so "
     "pixels outside that group stay dark. Use the GPS Mirra tab to play a full set of group files together.");
 
 } // namespace
@@ -151,8 +151,8 @@ private slots:
         block.frameByteSize = 0xDEADBEEF; // arbitrary: the reader does not check it
         const QByteArray head = block.toBytes();
         Recording rec;
-        const auto result = rec.load(write(QStringLiteral("gps.tpx"), head + sequence({1, 2, 1, 2, 1, 2})),
-                                     nullptr, quiet);
+        const auto result =
+            rec.load(write(QStringLiteral("gps.tpx"), head + sequence({1, 2, 1, 2, 1, 2})), nullptr, quiet);
         QVERIFY(result.ok);
         QVERIFY(rec.isGpsSync());
         QCOMPARE(rec.firstRecordOffset(), 143);
@@ -169,7 +169,8 @@ private slots:
         Recording rec;
         const TPatch::PatchData patch = patchOf({1, 2});
         QByteArray head(143, 'x'); // arbitrary bytes in front of the first record
-        QVERIFY(rec.load(write(QStringLiteral("gps-patch.tpx"), head + sequence({1, 2, 1, 2})), &patch, true).ok);
+        QVERIFY(
+            rec.load(write(QStringLiteral("gps-patch.tpx"), head + sequence({1, 2, 1, 2})), &patch, true).ok);
         QVERIFY(!rec.matchesPatch());
         QCOMPARE(rec.recordsPerFrame(), 2);
     }
@@ -178,17 +179,21 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("error");
-        QTest::newRow("empty") << QByteArray() << QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
+        QTest::newRow("empty") << QByteArray()
+                               << QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
         QTest::newRow("19 bytes") << artDmx(1, 0).left(19)
                                   << QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
-        QTest::newRow("random") << QByteArray::fromHex("8f3c11d2e4a07b55c3e91f0d2a6b7c8d9e0f1a2b3c4d5e6f708192a3b4")
-                                << QStringLiteral("\"bad.tpx\" does not start with an Art-Net or KEL DMX record. It "
-                                                  "is not a Torvane recording, or it is damaged.");
+        QTest::newRow("random") << QByteArray::fromHex(
+                                       "8f3c11d2e4a07b55c3e91f0d2a6b7c8d9e0f1a2b3c4d5e6f708192a3b4")
+                                << QStringLiteral(
+                                       "\"bad.tpx\" does not start with an Art-Net or KEL DMX record. It "
+                                       "is not a Torvane recording, or it is damaged.");
         QByteArray wrongOp = artDmx(1);
         wrongOp[9] = 0x20; // ArtPoll, not ArtDmx
         QTest::newRow("not ArtDmx") << wrongOp
-                                    << QStringLiteral("\"bad.tpx\" does not start with an Art-Net or KEL DMX "
-                                                      "record. It is not a Torvane recording, or it is damaged.");
+                                    << QStringLiteral(
+                                           "\"bad.tpx\" does not start with an Art-Net or KEL DMX "
+                                           "record. It is not a Torvane recording, or it is damaged.");
         QTest::newRow("length past the end")
             << artDmx(1, 100).left(60) << QStringLiteral("\"bad.tpx\" contains no usable DMX records.");
         QByteArray kelTooShort = kGoldenKel;
@@ -218,11 +223,13 @@ private slots:
         Recording rec;
         auto result = rec.load(m_dir.filePath(QStringLiteral("missing.tpx")));
         QVERIFY(!result.ok);
-        QVERIFY(result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"missing.tpx\": ")));
+        QVERIFY(
+            result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"missing.tpx\": ")));
         QDir(m_dir.path()).mkdir(QStringLiteral("folder.tpx"));
         result = rec.load(m_dir.filePath(QStringLiteral("folder.tpx")));
         QVERIFY(!result.ok);
-        QVERIFY(result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"folder.tpx\": ")));
+        QVERIFY(
+            result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"folder.tpx\": ")));
     }
 
     void smallestRecord()
@@ -246,20 +253,24 @@ private slots:
         QTest::newRow("two stray bytes") << three + "xy" << 3 << QStringList();
         QTest::newRow("three stray bytes")
             << three + "xyz" << 3
-            << QStringList{QStringLiteral("Stopped parsing at byte 72 of 75 - the file is truncated or contains a "
-                                          "record this reader does not understand. 3 record(s) were usable.")};
+            << QStringList{
+                   QStringLiteral("Stopped parsing at byte 72 of 75 - the file is truncated or contains a "
+                                  "record this reader does not understand. 3 record(s) were usable.")};
         QTest::newRow("record cut short")
             << three + artDmx(4).left(21) << 3
-            << QStringList{QStringLiteral("Stopped parsing at byte 72 of 93 - the file is truncated or contains a "
-                                          "record this reader does not understand. 3 record(s) were usable.")};
+            << QStringList{
+                   QStringLiteral("Stopped parsing at byte 72 of 93 - the file is truncated or contains a "
+                                  "record this reader does not understand. 3 record(s) were usable.")};
         QTest::newRow("KEL after plain")
             << three + kGoldenKel << 3
-            << QStringList{QStringLiteral("Stopped parsing at byte 72 of 107 - the file is truncated or contains "
-                                          "a record this reader does not understand. 3 record(s) were usable.")};
+            << QStringList{
+                   QStringLiteral("Stopped parsing at byte 72 of 107 - the file is truncated or contains "
+                                  "a record this reader does not understand. 3 record(s) were usable.")};
         QTest::newRow("garbage in the middle")
             << sequence({1, 1}) + QByteArray(30, 'z') + sequence({1, 1}) << 2
-            << QStringList{QStringLiteral("Stopped parsing at byte 48 of 126 - the file is truncated or contains "
-                                          "a record this reader does not understand. 2 record(s) were usable.")};
+            << QStringList{
+                   QStringLiteral("Stopped parsing at byte 48 of 126 - the file is truncated or contains "
+                                  "a record this reader does not understand. 2 record(s) were usable.")};
     }
 
     void walkStops()
@@ -313,28 +324,35 @@ private slots:
         QTest::addColumn<int>("recordsPerFrame");
         QTest::addColumn<int>("frames");
         QTest::addColumn<QStringList>("warnings");
-        const QString trailing2 = QStringLiteral("2 trailing record(s) do not form a complete frame and are ignored.");
-        QTest::newRow("matches with a partial frame") << sequence({1, 2, 3, 1, 2, 3, 1, 2}) << true << 3 << 2
-                                                      << QStringList{trailing2};
+        const QString trailing2 =
+            QStringLiteral("2 trailing record(s) do not form a complete frame and are ignored.");
+        QTest::newRow("matches with a partial frame")
+            << sequence({1, 2, 3, 1, 2, 3, 1, 2}) << true << 3 << 2 << QStringList{trailing2};
         QTest::newRow("matches exactly") << sequence({1, 2, 3, 1, 2, 3}) << true << 3 << 2 << QStringList();
         QTest::newRow("other layout")
             << sequence({1, 2, 1, 2}) << false << 2 << 2
-            << QStringList{QStringLiteral(
-                   "This recording does not match the loaded patch: the patch expects 3 record(s) per frame in a "
-                   "fixed order, but the file repeats every 2. Playback will follow the file and map records by "
-                   "universe number, which cannot separate devices that share a universe.")};
+            << QStringList{
+                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
+                                  "record(s) per frame in a "
+                                  "fixed order, but the file repeats every 2. Playback will follow the file "
+                                  "and map records by "
+                                  "universe number, which cannot separate devices that share a universe.")};
         QTest::newRow("shorter than one frame")
             << sequence({1, 2}) << false << 2 << 1
-            << QStringList{QStringLiteral(
-                   "This recording does not match the loaded patch: the patch expects 3 record(s) per frame in a "
-                   "fixed order, but the file repeats every 2. Playback will follow the file and map records by "
-                   "universe number, which cannot separate devices that share a universe.")};
+            << QStringList{
+                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
+                                  "record(s) per frame in a "
+                                  "fixed order, but the file repeats every 2. Playback will follow the file "
+                                  "and map records by "
+                                  "universe number, which cannot separate devices that share a universe.")};
         QTest::newRow("wrong trailing record")
             << sequence({1, 2, 3, 1, 2, 3, 1, 3}) << false << 8 << 1
-            << QStringList{QStringLiteral(
-                   "This recording does not match the loaded patch: the patch expects 3 record(s) per frame in a "
-                   "fixed order, but the file repeats every 8. Playback will follow the file and map records by "
-                   "universe number, which cannot separate devices that share a universe.")};
+            << QStringList{
+                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
+                                  "record(s) per frame in a "
+                                  "fixed order, but the file repeats every 8. Playback will follow the file "
+                                  "and map records by "
+                                  "universe number, which cannot separate devices that share a universe.")};
     }
 
     void patchMatch()

@@ -26,7 +26,10 @@ class TestRecordingCommand : public QObject
         return p.exitCode();
     }
 
-    static QString example(const char *name) { return QStringLiteral(TALU_SOURCE_DIR "/examples/") + QLatin1String(name); }
+    static QString example(const char *name)
+    {
+        return QStringLiteral(TALU_SOURCE_DIR "/examples/") + QLatin1String(name);
+    }
 
 private slots:
     void demoRecordingMatchesDemoPatch()
@@ -35,8 +38,8 @@ private slots:
         QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("demo-recording"), out}), 0);
         for (const QString &file : {out, example("demo.tpx")}) {
             QByteArray json;
-            QCOMPARE(run({QStringLiteral("recording"), file, QStringLiteral("--patch"), example("demo.tpatch"),
-                          QStringLiteral("--json")},
+            QCOMPARE(run({QStringLiteral("recording"), file, QStringLiteral("--patch"),
+                          example("demo.tpatch"), QStringLiteral("--json")},
                          &json),
                      0);
             const QJsonObject o = QJsonDocument::fromJson(json).object();

@@ -39,16 +39,15 @@ private slots:
         QVERIFY(w.open(path, 40, 0));
         QVERIFY(w.write(0x0102, QByteArray::fromHex("ff80")));
         w.close();
-        const QByteArray expected = QByteArray::fromHex(
-            "4172742d4e657400" // "Art-Net\0"
-            "0050"             // OpCode 0x5000, little-endian
-            "000e"             // protocol version 14
-            "00"               // sequence: always 0
-            "00"               // physical
-            "0201"             // Port-Address 0x0102: SubUni, then Net
-            "0002"             // length 2, big-endian
-            "ff80"             // DMX slots
-            "0000");           // timestamp of frame 0
+        const QByteArray expected = QByteArray::fromHex("4172742d4e657400" // "Art-Net\0"
+                                                        "0050"             // OpCode 0x5000, little-endian
+                                                        "000e"             // protocol version 14
+                                                        "00"               // sequence: always 0
+                                                        "00"               // physical
+                                                        "0201"   // Port-Address 0x0102: SubUni, then Net
+                                                        "0002"   // length 2, big-endian
+                                                        "ff80"   // DMX slots
+                                                        "0000"); // timestamp of frame 0
         QCOMPARE(readAll(path), expected);
         QCOMPARE(w.recordsWritten(), 1);
         QCOMPARE(w.framesWritten(), 1);
@@ -64,17 +63,17 @@ private slots:
         w.setSource(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"));
         QVERIFY(w.write(5, QByteArray::fromHex("010203")));
         w.close();
-        const QByteArray expected = QByteArray::fromHex(
-            "0100"                 // device prefix
-            "4b454c36532d4c4f4e47" // "KEL6S-LONG": the name cut to 10 bytes
-            "4172742d4e657400"     // "Art-Net\0"
-            "0053"                 // OpCode 0x5300
-            "000e"                 // protocol version 14
-            "0000"                 // sequence, physical
-            "0500"                 // Port-Address 5
-            "0003"                 // length 3
-            "010203"               // DMX slots
-            "0000");               // timestamp
+        const QByteArray expected =
+            QByteArray::fromHex("0100"                 // device prefix
+                                "4b454c36532d4c4f4e47" // "KEL6S-LONG": the name cut to 10 bytes
+                                "4172742d4e657400"     // "Art-Net\0"
+                                "0053"                 // OpCode 0x5300
+                                "000e"                 // protocol version 14
+                                "0000"                 // sequence, physical
+                                "0500"                 // Port-Address 5
+                                "0003"                 // length 3
+                                "010203"               // DMX slots
+                                "0000");               // timestamp
         QCOMPARE(readAll(path), expected);
         QCOMPARE(RecordingWriter::header(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"), 5, 3),
                  expected.left(30));
