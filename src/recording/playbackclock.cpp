@@ -129,8 +129,11 @@ double PlaybackClock::measuredFps() const
 
 void PlaybackClock::play()
 {
-    if (isRunning())
-        return;
+    if (isRunning()) {
+        if (m_running)
+            return; // already playing
+        wait();     // a run that was told to stop is still winding down: let it end first
+    }
     m_running = true;
     m_tickPending = false; // a tick left unanswered by the last run must not block this one
     // Above the GUI so that a busy interface does not delay the wake-up before

@@ -56,8 +56,10 @@ public:
     void acknowledge();
     double measuredFps() const;
 
-    // Starts the thread (running); stop() clears running and wakes the thread.
-    // The owner waits for it (QThread::wait) when it has to be gone.
+    // Starts the thread (running); does nothing while already playing, and
+    // after a stop() first lets the stopped run end. stop() clears running
+    // and wakes the thread; the owner waits for it (QThread::wait) when it
+    // has to be gone.
     void play();
     void stop();
     bool isPlaying() const { return m_running.load(); }

@@ -261,6 +261,14 @@ private slots:
         clock.stop();
         QVERIFY(clock.wait(QDeadlineTimer(5000)));
         QCOMPARE(finished.size(), 1);
+        // Pause and play again: the run continues from where it stopped.
+        clock.play();
+        clock.stop();
+        clock.play();
+        QVERIFY(clock.isPlaying());
+        clock.stop();
+        QVERIFY(clock.wait(QDeadlineTimer(5000)));
+        QCOMPARE(finished.size(), 3);
     }
 };
 
