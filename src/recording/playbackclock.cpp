@@ -272,6 +272,8 @@ void PlaybackClock::run()
         bool last = false;
         {
             QMutexLocker locker(&m_lock);
+            if (m_frameCount < 1)
+                break; // the recording was taken away while waiting
             frame = std::clamp<qint64>(m_currentFrame, 0, m_frameCount - 1);
             if (frame + 1 < m_frameCount)
                 m_currentFrame = frame + 1;
