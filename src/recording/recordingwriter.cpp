@@ -182,6 +182,8 @@ void RecordingWriter::close()
 
 void RecordingWriter::setFailure(const QString &reason)
 {
-    if (m_failure.isEmpty())
-        m_failure = reason.isEmpty() ? tr("The file could not be written.") : reason;
+    if (!m_failure.isEmpty())
+        return;
+    m_failure = reason.isEmpty() ? tr("The file could not be written.") : reason;
+    emit writeFailed(m_failure);
 }

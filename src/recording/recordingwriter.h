@@ -21,8 +21,8 @@
 // one burst).
 //
 // Write failures: a short write, a failed flush or the file vanishing from
-// its folder sets failed() with failureReason(); the owner then stops and
-// reports "Recording stopped: %1". Records are flushed at every frame
+// its folder sets failed() with failureReason() and emits writeFailed once;
+// the owner then stops and reports "Recording stopped: %1". Records are flushed at every frame
 // boundary, so a failure surfaces within a frame.
 //
 // Threads: GUI thread only.
@@ -65,6 +65,10 @@ public:
     // The 18- or 30-byte record header for one packet, sequence always 0.
     static QByteArray header(RecordFlavour flavour, const QString &kelDeviceName, quint16 portAddress,
                              quint16 length);
+
+signals:
+    // The first failure of this session; later records are refused.
+    void writeFailed(const QString &reason);
 
 private:
     bool open(OpenMode mode) override; // use open(path, frameRate, recordsPerFrame)

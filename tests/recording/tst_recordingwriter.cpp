@@ -234,12 +234,16 @@ private slots:
             QSKIP("needs /dev/full");
         RecordingWriter w;
         QVERIFY(w.open(QStringLiteral("/dev/full"), 40, 1));
+        QSignalSpy failures(&w, &RecordingWriter::writeFailed);
         bool ok = true;
         for (int i = 0; i < 100 && ok; ++i)
             ok = w.write(1, dmx(512));
         QVERIFY(!ok);
         QVERIFY(w.failed());
         QVERIFY(!w.failureReason().isEmpty());
+        QVERIFY(!w.write(1, dmx(512)));
+        QCOMPARE(failures.size(), 1);
+        QCOMPARE(failures.at(0).at(0).toString(), w.failureReason());
     }
 
     void removedFileIsReported()
