@@ -136,9 +136,9 @@ void PlaybackClock::play()
     }
     m_running = true;
     m_tickPending = false; // a tick left unanswered by the last run must not block this one
-    // Above the GUI so that a busy interface does not delay the wake-up before
-    // a deadline; the thread sleeps most of each period, so it takes little.
-    start(QThread::HighestPriority);
+    // The thread inherits the owner's scheduling (an explicit priority would
+    // reset a real-time policy the program was started with to the default).
+    start();
 }
 
 void PlaybackClock::stop()
