@@ -32,8 +32,12 @@ talu_install_packages() {
 talu_build() {
     local preset="$1"; shift
     local dir="$TALU_ROOT/build/$preset"
-    if [ ! -f "$dir/CMakeCache.txt" ] || [ "$#" -gt 0 ]; then
-        cmake --preset "$preset" -S "$TALU_ROOT" "$@"
-    fi
-    cmake --build --preset "$preset" --parallel "$(nproc)"
+    # Presets are looked up in the current folder.
+    (
+        cd "$TALU_ROOT"
+        if [ ! -f "$dir/CMakeCache.txt" ] || [ "$#" -gt 0 ]; then
+            cmake --preset "$preset" "$@"
+        fi
+        cmake --build --preset "$preset" --parallel "$(nproc)"
+    )
 }

@@ -1,5 +1,6 @@
 #include "cli/clicommon.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 
 #include <cstdio>
@@ -35,13 +36,15 @@ bool parseCommandLine(QCommandLineParser &parser, const QString &command, const 
     parser.addOption(help);
     QStringList argv{QStringLiteral("talu-cli ") + command};
     argv += arguments;
+    // QCommandLineParser names the binary's path in its usage line; users type "talu-cli COMMAND".
+    const QString helpText = parser.helpText().replace(QCoreApplication::arguments().value(0), argv.constFirst());
     if (!parser.parse(argv)) {
         printErr(QStringLiteral("talu-cli %1: %2").arg(command, parser.errorText()));
-        printErr(parser.helpText());
+        printErr(helpText);
         return false;
     }
     if (parser.isSet(help)) {
-        printOut(parser.helpText());
+        printOut(helpText);
         *helpShown = true;
     }
     return true;

@@ -1,10 +1,30 @@
 #include "cli/patchcommand.h"
 
 #include "cli/clicommon.h"
+#include "patch/importreport.h"
 #include "patch/patchloader.h"
 #include "patch/pixellayout.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
+
+namespace {
+
+// --report: the diagnostic folder the main window leaves after a load, in
+// English (talu-cli has no interface language). Empty on failure, reason printed.
+QString writeReport(const QString &path, const TPatch::PatchLoadResult &result, const QString &logs)
+{
+    const QString folder = logs.isEmpty() ? TPatch::importLogsFolder() : logs;
+    const TPatch::ImportReportResult report =
+        folder.isEmpty() ? TPatch::ImportReportResult{false, false, {}, QStringLiteral("no writable logs folder")}
+                         : TPatch::writeImportReport(folder, QFileInfo(path).absoluteFilePath(), result,
+                                                     QStringLiteral("English"));
+    if (!report.ok)
+        printErr(QStringLiteral("talu-cli patch: the report could not be written: ") + report.error);
+    return report.ok ? report.folder : QString();
+}
+
+} // namespace
 
 int runPatchCommand(const QStringList &arguments)
 {
@@ -23,10 +43,19 @@ int runPatchCommand(const QStringList &arguments)
         "  sceneRect      [x, y, width, height] of the union of all laid-out pixels and kinetic items,\n"
         "                 [0, 0, 0, 0] when nothing is drawn\n"
         "  zRange         [lowest, highest] Z layer of the laid-out records, or null when nothing is drawn\n"
+        "With --report, also writes the import report folder (report.txt and a copy of the file) into the logs\n"
+        "folder (beside talu-cli, else the per-user data folder; --logs DIR chooses another), reusing a folder\n"
+        "whose report has the same fingerprint, and prints the folder as the last line (JSON: report, the folder\n"
+        "or null when it could not be written).\n"
         "Exit codes: 0 loaded, 1 the patch was refused, 2 usage error."));
     parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The patch file."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOption(json);
+    const QCommandLineOption reportOption(QStringLiteral("report"), QStringLiteral("Write the import report folder."));
+    const QCommandLineOption logsOption(QStringLiteral("logs"), QStringLiteral("Logs folder for --report."),
+                                        QStringLiteral("dir"));
+    parser.addOption(reportOption);
+    parser.addOption(logsOption);
     bool helpShown = false;
     if (!parseCommandLine(parser, QStringLiteral("patch"), arguments, &helpShown))
         return ExitUsage;
@@ -38,6 +67,9 @@ int runPatchCommand(const QStringList &arguments)
     }
 
     const TPatch::PatchLoadResult result = TPatch::loadPatch(parser.positionalArguments().constFirst());
+    const QString report = parser.isSet(reportOption)
+                               ? writeReport(parser.positionalArguments().constFirst(), result, parser.value(logsOption))
+                               : QString();
     const TPatch::PatchCounts counts = TPatch::countPatch(result.patch);
     const TPatch::PixelLayout layout = result.ok ? TPatch::buildPixelLayout(result.patch) : TPatch::PixelLayout{};
     QStringList warnings;
@@ -48,7 +80,7 @@ int runPatchCommand(const QStringList &arguments)
     const QRectF scene = layout.sceneRect;
 
     if (parser.isSet(json)) {
-        printJson(QJsonObject{
+        QJsonObject object{
             {QStringLiteral("ok"), result.ok},
             {QStringLiteral("error"), result.ok ? QJsonValue() : QJsonValue(result.error.untranslatedText())},
             {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
@@ -63,7 +95,10 @@ int runPatchCommand(const QStringList &arguments)
             {QStringLiteral("sceneRect"), QJsonArray{scene.x(), scene.y(), scene.width(), scene.height()}},
             {QStringLiteral("zRange"), layout.zRange.seen ? QJsonValue(QJsonArray{layout.zRange.min, layout.zRange.max})
                                                           : QJsonValue()},
-        });
+        };
+        if (parser.isSet(reportOption))
+            object.insert(QStringLiteral("report"), report.isEmpty() ? QJsonValue() : QJsonValue(report));
+        printJson(object);
     } else if (!result.ok) {
         printErr(QStringLiteral("error: ") + result.error.untranslatedText());
     } else {
@@ -87,5 +122,7 @@ int runPatchCommand(const QStringList &arguments)
         for (const QString &w : warnings)
             printOut(QStringLiteral("warning: ") + w);
     }
+    if (parser.isSet(reportOption) && !parser.isSet(json) && !report.isEmpty())
+        printOut(report);
     return result.ok ? ExitOk : ExitRefused;
 }

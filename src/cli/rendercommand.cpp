@@ -5,6 +5,7 @@
 #include "monitor/pixelcolourbuffer.h"
 #include "patch/patchloader.h"
 #include "patch/pixellayout.h"
+#include "recording/recording.h"
 
 #include <QRegularExpression>
 
@@ -54,7 +55,9 @@ int runRenderCommand(const QStringList &arguments)
         "Draws one monitor picture of a patch exactly as the 2D or 3D monitor shows it after loading\n"
         "(fitted to the picture), without a display, and writes it as PNG.\n"
         "\n"
-        "Without a recording every pixel is dark, as on the monitor before data arrives.\n"
+        "With --recording, frame N of the .tpx file (counted from 0, default 0) is evaluated against the\n"
+        "patch as playback shows it; without a recording every pixel is dark, as on the monitor before\n"
+        "data arrives.\n"
         "The 2D picture has the monitor's (60, 60, 60) background; the 3D picture its grey gradient,\n"
         "round dots (or squares with --fast) and kinetic items as white lines.\n"
         "\n"
@@ -62,8 +65,10 @@ int runRenderCommand(const QStringList &arguments)
         "\n"
         "With --json, one object: output (path), view (\"2d\" or \"3d\"), width, height (integers),\n"
         "pixels (drawable pixels of the patch), litPixels (pixels whose colour is not black),\n"
-        "kinetics (kinetic items).\n"
-        "Exit codes: 0 written, 1 the patch was refused or the file could not be written, 2 usage error."));
+        "kinetics (kinetic items), frame (the frame drawn, or null without a recording), frames (the\n"
+        "recording's frame count, or null).\n"
+        "Exit codes: 0 written, 1 the patch or recording was refused, the frame is past the end or the\n"
+        "file could not be written, 2 usage error."));
     const QCommandLineOption patch(QStringLiteral("patch"), QStringLiteral("The patch to draw (.tpatch, .mpz, .elm)."),
                                    QStringLiteral("file"));
     const QCommandLineOption view(QStringLiteral("view"), QStringLiteral("2d (default) or 3d."), QStringLiteral("view"),
@@ -79,10 +84,14 @@ int runRenderCommand(const QStringList &arguments)
                                    QStringLiteral("deg"));
     const QCommandLineOption fast(QStringLiteral("fast"), QStringLiteral("3D: squares without antialiasing (\"Fast draw\")."));
     const QCommandLineOption axes(QStringLiteral("axes"), QStringLiteral("3D: draw the X-Y-Z arrows."));
+    const QCommandLineOption recording(QStringLiteral("recording"), QStringLiteral("A .tpx recording to take a frame from."),
+                                       QStringLiteral("file"));
+    const QCommandLineOption frame(QStringLiteral("frame"), QStringLiteral("The frame to draw, from 0 (default 0)."),
+                                   QStringLiteral("N"), QStringLiteral("0"));
     const QCommandLineOption output(QStringList{QStringLiteral("o"), QStringLiteral("output")},
                                     QStringLiteral("The PNG file to write."), QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
-    parser.addOptions({patch, view, white, size, yaw, pitch, fast, axes, output, json});
+    parser.addOptions({patch, recording, frame, view, white, size, yaw, pitch, fast, axes, output, json});
     bool helpShown = false;
     if (!parseCommandLine(parser, QStringLiteral("render"), arguments, &helpShown))
         return ExitUsage;
@@ -114,6 +123,12 @@ int runRenderCommand(const QStringList &arguments)
             return usage(QStringLiteral("--%1 takes an angle in degrees.").arg(option->names().constFirst()));
         *target = *radians;
     }
+    bool frameOk = false;
+    const qint64 frameNumber = parser.value(frame).toLongLong(&frameOk);
+    if (!frameOk || frameNumber < 0)
+        return usage(QStringLiteral("--frame takes a frame number from 0."));
+    if (parser.isSet(frame) && !parser.isSet(recording))
+        return usage(QStringLiteral("--frame needs --recording."));
     options.fastDraw = parser.isSet(fast);
     options.showAxes = parser.isSet(axes);
 
@@ -126,6 +141,26 @@ int runRenderCommand(const QStringList &arguments)
     PixelColourBuffer buffer;
     buffer.setPatch(&layout.pixels);
     buffer.setWhiteEnabled(parser.isSet(white));
+    Recording recorded;
+    if (parser.isSet(recording)) {
+        const RecordingLoadResult r = recorded.load(parser.value(recording), &loaded.patch);
+        if (!r.ok) {
+            printErr(QStringLiteral("talu-cli render: ") + r.error.untranslatedText());
+            return ExitRefused;
+        }
+        if (frameNumber >= recorded.frameCount()) {
+            printErr(QStringLiteral("talu-cli render: frame %1 is past the end (the recording has %2 frames).")
+                         .arg(frameNumber)
+                         .arg(recorded.frameCount()));
+            return ExitRefused;
+        }
+        // As playback shows a frame: every record's universe against the pixels patched on it.
+        for (const RecordRef &record : recorded.frameRecords(frameNumber)) {
+            const QByteArrayView data = recorded.dataOf(record);
+            buffer.applyUniverse(layout.pixelsForPortAddress(record.universe),
+                                 reinterpret_cast<const quint8 *>(data.data()), int(data.size()));
+        }
+    }
 
     const QImage image = viewName == QLatin1StringView("3d")
                              ? MonitorRender::render3D(layout, buffer.colours(), buffer.kineticValues(), *pictureSize, options)
@@ -146,6 +181,8 @@ int runRenderCommand(const QStringList &arguments)
             {QStringLiteral("pixels"), drawable},
             {QStringLiteral("litPixels"), lit(buffer.colours())},
             {QStringLiteral("kinetics"), kinetics},
+            {QStringLiteral("frame"), recorded.isLoaded() ? QJsonValue(frameNumber) : QJsonValue()},
+            {QStringLiteral("frames"), recorded.isLoaded() ? QJsonValue(recorded.frameCount()) : QJsonValue()},
         });
     } else {
         printOut(QStringLiteral("Wrote %1 (%2 x %3, %4 view, %5 pixels).")

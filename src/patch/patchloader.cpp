@@ -1,5 +1,7 @@
 #include "patch/patchloader.h"
 
+#include "patch/elmreader.h"
+#include "patch/madrixreader.h"
 #include "patch/tpatchreader.h"
 
 #include <QFile>
@@ -17,18 +19,6 @@ QByteArray head(const QString &path)
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
         return {};
     return file.read(kSniffBytes);
-}
-
-// Until the MADRIX and ELM importers exist, such files are refused in plain words
-// rather than being fed to the JSON reader, which would call them invalid.
-PatchLoadResult notYetSupported(const QString &path, const char *label, SourceKind kind)
-{
-    PatchLoadResult result;
-    result.patch.formatLabel = QString::fromLatin1(label);
-    result.patch.sourceKind = kind;
-    result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "\"%1\" is a %2; this version cannot import it yet."),
-                                {QFileInfo(path).fileName(), result.patch.formatLabel});
-    return result;
 }
 
 } // namespace
@@ -49,9 +39,9 @@ PatchLoadResult loadPatch(const QString &path)
 {
     switch (sniffPatchFormat(path)) {
     case PatchFormat::Madrix:
-        return notYetSupported(path, "MADRIX 5 patch (.mpz)", SourceKind::Madrix);
+        return readMadrixPatch(path);
     case PatchFormat::Elm:
-        return notYetSupported(path, "ENTTEC ELM project (.elm)", SourceKind::Elm);
+        return readElmProject(path);
     case PatchFormat::Native:
         break;
     }

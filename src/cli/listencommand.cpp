@@ -1,0 +1,253 @@
+#include "cli/listencommand.h"
+
+#include "artnet/artnetnode.h"
+#include "cli/clicommon.h"
+#include "patch/frameorder.h"
+#include "patch/patchloader.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <csignal>
+#include <cstdio>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+// Set from the signal handler; polled by a timer so the node stops cleanly
+// on the event loop's thread.
+std::atomic<bool> g_stopRequested{false};
+
+extern "C" void requestStop(int)
+{
+    g_stopRequested.store(true);
+}
+
+bool stdoutIsTerminal()
+{
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stdout)) != 0;
+#else
+    return isatty(fileno(stdout)) != 0;
+#endif
+}
+
+// "1,2,0x12" -> Port-Addresses; hexadecimal with 0x, else decimal.
+bool parseUniverses(const QString &text, QVector<quint16> *out, QString *bad)
+{
+    for (const QString &part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const QString item = part.trimmed();
+        bool ok = false;
+        const bool hex = item.startsWith(QLatin1StringView("0x"), Qt::CaseInsensitive);
+        const uint value = hex ? item.mid(2).toUInt(&ok, 16) : item.toUInt(&ok, 10);
+        // A Port-Address has 15 bits.
+        if (!ok || value > 0x7FFF) {
+            *bad = item;
+            return false;
+        }
+        out->append(quint16(value));
+    }
+    return true;
+}
+
+QVector<quint16> patchUniverses(const TPatch::PatchData &patch)
+{
+    QVector<quint16> universes = TPatch::expectedFrameOrder(patch).universes();
+    std::sort(universes.begin(), universes.end());
+    universes.erase(std::unique(universes.begin(), universes.end()), universes.end());
+    return universes;
+}
+
+QString statusLine(const NodeStats &s)
+{
+    return QStringLiteral("%1 packets, %2 pkt/s, %3 polls, %4 seq errors")
+        .arg(s.dmxPackets)
+        .arg(s.packetsPerSecond, 0, 'f', 0)
+        .arg(s.artPolls)
+        .arg(s.sequenceErrors);
+}
+
+QJsonObject reportJson(const ArtNetNode &node, double seconds)
+{
+    const NodeStats s = node.stats();
+    QJsonArray universes;
+    for (quint16 u : node.universes())
+        universes.append(int(u));
+    const bool kel = node.sourceFlavour() == ArtNet::DmxFlavour::Kel;
+    // Counters leave as doubles: exact up to 2^53 packets, far past any run.
+    return QJsonObject{
+        {QStringLiteral("dmxPackets"), double(s.dmxPackets)},
+        {QStringLiteral("artPolls"), double(s.artPolls)},
+        {QStringLiteral("ignored"), double(s.ignored)},
+        {QStringLiteral("sequenceErrors"), double(s.sequenceErrors)},
+        {QStringLiteral("packetsPerSecond"), s.packetsPerSecond},
+        {QStringLiteral("universes"), universes},
+        {QStringLiteral("source"), kel ? QStringLiteral("KEL") : QStringLiteral("Art-Net")},
+        {QStringLiteral("kelDeviceName"), node.kelDeviceName()},
+        {QStringLiteral("seconds"), seconds},
+    };
+}
+
+} // namespace
+
+int runListenCommand(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Runs the Art-Net node without a display: answers ArtPoll with one ArtPollReply per advertised\n"
+        "universe, announces itself every 2 s to 255.255.255.255, receives ArtDmx and KEL DMX and counts them.\n"
+        "Runs for --seconds, or until Ctrl-C / SIGTERM, then stops cleanly. It broadcasts: on a development\n"
+        "machine run it inside scripts/netns, never on a show network by accident.\n"
+        "\n"
+        "Once bound it prints \"Listening on ADDRESS:PORT, advertising N universe(s).\" to standard error.\n"
+        "Without --json, on a terminal, a status line (packets, pkt/s, polls, sequence errors) is refreshed\n"
+        "once a second, and a summary line is printed at the end.\n"
+        "\n"
+        "With --json, one object at the end: dmxPackets, artPolls, ignored, sequenceErrors (counts since start),\n"
+        "packetsPerSecond (the last full one-second rate window; 0 before one has passed), universes (the\n"
+        "Port-Addresses received, ascending, as numbers), source (\"Art-Net\" or \"KEL\", the flavour of the latest\n"
+        "DMX packet), kelDeviceName (the KEL device name, or empty), seconds (how long the node ran).\n"
+        "Exit codes: 0 ran and stopped, 1 the socket could not be bound or the patch was refused, 2 usage error."));
+    const QCommandLineOption address(QStringLiteral("address"),
+                                     QStringLiteral("Local IPv4 address to listen on (default: any)."),
+                                     QStringLiteral("address"));
+    const QCommandLineOption port(QStringLiteral("port"), QStringLiteral("UDP port (default 6454)."),
+                                  QStringLiteral("port"), QStringLiteral("6454"));
+    const QCommandLineOption universes(QStringLiteral("universes"),
+                                       QStringLiteral("Port-Addresses to advertise, comma-separated, decimal or 0x hex "
+                                                      "(default: none, one reply with Net 0, Sub-Net 0)."),
+                                       QStringLiteral("list"));
+    const QCommandLineOption patch(QStringLiteral("patch"),
+                                   QStringLiteral("Advertise the Port-Addresses of this patch instead."),
+                                   QStringLiteral("file"));
+    const QCommandLineOption shortName(QStringLiteral("short-name"),
+                                       QStringLiteral("ArtPollReply short name (default TorvaneTester)."),
+                                       QStringLiteral("name"));
+    const QCommandLineOption longName(QStringLiteral("long-name"),
+                                      QStringLiteral("ArtPollReply long name (default Torvane Art-Net Tester)."),
+                                      QStringLiteral("name"));
+    const QCommandLineOption seconds(QStringLiteral("seconds"),
+                                     QStringLiteral("Run time in seconds (default: until interrupted)."),
+                                     QStringLiteral("n"));
+    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
+    for (const QCommandLineOption &o : {address, port, universes, patch, shortName, longName, seconds, json})
+        parser.addOption(o);
+    bool helpShown = false;
+    if (!parseCommandLine(parser, QStringLiteral("listen"), arguments, &helpShown))
+        return ExitUsage;
+    if (helpShown)
+        return ExitOk;
+    const auto usageError = [](const QString &text) {
+        printErr(QStringLiteral("talu-cli listen: ") + text);
+        return int(ExitUsage);
+    };
+    if (!parser.positionalArguments().isEmpty())
+        return usageError(QStringLiteral("takes no file arguments."));
+
+    QHostAddress bindAddress;
+    if (parser.isSet(address)) {
+        const QString text = parser.value(address);
+        if (text != QLatin1StringView("any") && !bindAddress.setAddress(text))
+            return usageError(QStringLiteral("\"%1\" is not an IP address.").arg(text));
+        if (bindAddress == QHostAddress(QHostAddress::AnyIPv4))
+            bindAddress = QHostAddress();
+    }
+    bool ok = false;
+    const uint portValue = parser.value(port).toUInt(&ok);
+    if (!ok || portValue > 65535)
+        return usageError(QStringLiteral("\"%1\" is not a port number.").arg(parser.value(port)));
+    double runSeconds = -1;
+    if (parser.isSet(seconds)) {
+        runSeconds = parser.value(seconds).toDouble(&ok);
+        if (!ok || runSeconds < 0 || runSeconds > 1e6)
+            return usageError(QStringLiteral("\"%1\" is not a number of seconds.").arg(parser.value(seconds)));
+    }
+
+    QVector<quint16> advertised;
+    if (parser.isSet(universes) && parser.isSet(patch))
+        return usageError(QStringLiteral("give --universes or --patch, not both."));
+    if (parser.isSet(universes)) {
+        QString bad;
+        if (!parseUniverses(parser.value(universes), &advertised, &bad))
+            return usageError(QStringLiteral("\"%1\" is not a Port-Address (0 to 0x7FFF).").arg(bad));
+    } else if (parser.isSet(patch)) {
+        const TPatch::PatchLoadResult loaded = TPatch::loadPatch(parser.value(patch));
+        if (!loaded.ok) {
+            printErr(QStringLiteral("talu-cli listen: ") + loaded.error.untranslatedText());
+            return ExitRefused;
+        }
+        advertised = patchUniverses(loaded.patch);
+    }
+
+    NodeIdentity identity;
+    if (parser.isSet(shortName))
+        identity.shortName = parser.value(shortName);
+    if (parser.isSet(longName))
+        identity.longName = parser.value(longName);
+
+    ArtNetNode node;
+    node.setIdentity(identity);
+    node.setUniverses(advertised);
+    const QString shownAddress = bindAddress.isNull() ? QStringLiteral("0.0.0.0") : bindAddress.toString();
+    if (!node.start(bindAddress, quint16(portValue))) {
+        printErr(QStringLiteral("talu-cli listen: cannot listen on %1:%2 - %3")
+                     .arg(shownAddress)
+                     .arg(portValue)
+                     .arg(node.lastError()));
+        return ExitRefused;
+    }
+    printErr(QStringLiteral("Listening on %1:%2, advertising %3 universe(s).")
+                 .arg(shownAddress)
+                 .arg(portValue)
+                 .arg(advertised.size()));
+
+    g_stopRequested.store(false);
+    std::signal(SIGINT, requestStop);
+    std::signal(SIGTERM, requestStop);
+    QTimer stopPoll;
+    QObject::connect(&stopPoll, &QTimer::timeout, [] {
+        if (g_stopRequested.load())
+            QCoreApplication::quit();
+    });
+    stopPoll.start(100);
+    QTimer runTimer;
+    runTimer.setSingleShot(true);
+    runTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&runTimer, &QTimer::timeout, [] { QCoreApplication::quit(); });
+    if (runSeconds >= 0)
+        runTimer.start(int(runSeconds * 1000));
+
+    const bool live = !parser.isSet(json) && stdoutIsTerminal();
+    QTimer statusTimer;
+    QObject::connect(&statusTimer, &QTimer::timeout, [&node] {
+        std::fputs(qPrintable(QStringLiteral("\r%1  ").arg(statusLine(node.stats()))), stdout);
+        std::fflush(stdout);
+    });
+    if (live)
+        statusTimer.start(1000);
+
+    QElapsedTimer ran;
+    ran.start();
+    QCoreApplication::exec();
+    node.stop();
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+
+    if (parser.isSet(json)) {
+        printJson(reportJson(node, double(ran.elapsed()) / 1000.0));
+    } else {
+        if (live)
+            std::fputs("\n", stdout);
+        printOut(statusLine(node.stats()) + QStringLiteral(", %1 ignored").arg(node.stats().ignored));
+    }
+    return ExitOk;
+}

@@ -1,0 +1,144 @@
+#include "artnet/artnetpacket.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QUdpSocket>
+#include <QtTest>
+
+// talu-cli listen as a show machine runs it: a process, polled and fed by a
+// controller on loopback. Network label: runs inside the private namespace.
+
+using namespace ArtNet;
+
+namespace {
+
+const QHostAddress kLoopback(QHostAddress::LocalHost);
+
+bool waitForListening(QProcess &process, QByteArray *stderrText)
+{
+    process.setReadChannel(QProcess::StandardError);
+    QElapsedTimer t;
+    t.start();
+    while (!stderrText->contains("Listening on") && t.elapsed() < 10000) {
+        process.waitForReadyRead(200);
+        *stderrText += process.readAllStandardError();
+        if (process.state() == QProcess::NotRunning)
+            return false;
+    }
+    return stderrText->contains("Listening on");
+}
+
+} // namespace
+
+class TestListenCommand : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void answersPollAndReportsJson();
+    void advertisesThePatchUniverses();
+    void refusals_data();
+    void refusals();
+};
+
+void TestListenCommand::answersPollAndReportsJson()
+{
+    QProcess listen;
+    listen.start(QStringLiteral(TALU_CLI_PATH),
+                 {QStringLiteral("listen"), QStringLiteral("--seconds"), QStringLiteral("3"), QStringLiteral("--json"),
+                  QStringLiteral("--universes"), QStringLiteral("1,0x12"), QStringLiteral("--short-name"),
+                  QStringLiteral("TOVA")});
+    QByteArray err;
+    QVERIFY2(waitForListening(listen, &err), err.constData());
+    QVERIFY(err.contains("Listening on 0.0.0.0:6454, advertising 2 universe(s)."));
+
+    QUdpSocket controller;
+    QVERIFY(controller.bind(kLoopback, 0));
+    controller.writeDatagram(buildPoll(), kLoopback, kDefaultPort);
+    QVector<int> swOut;
+    while (swOut.size() < 2 && controller.waitForReadyRead(3000)) {
+        QByteArray reply(int(controller.pendingDatagramSize()), '\0');
+        controller.readDatagram(reply.data(), reply.size());
+        QCOMPARE(classifyDatagram(reply).kind, DatagramKind::PollReply);
+        QCOMPARE(reply.size(), kPollReplySize);
+        QCOMPARE(reply.mid(26, 5), QByteArray("TOVA\0", 5));
+        swOut.append(reply.at(190));
+    }
+    QCOMPARE(swOut, (QVector<int>{1, 2}));
+
+    for (int i = 1; i <= 10; ++i)
+        controller.writeDatagram(buildDmx(i % 2 ? 0x0012 : 0x0003, quint8(i), QByteArray(512, 'd')), kLoopback,
+                                 kDefaultPort);
+    controller.writeDatagram(buildDmx(0x0012, 1, QByteArray(512, 'd')), kLoopback, kDefaultPort); // 9 then 1
+    controller.writeDatagram(QByteArray(5, 'x'), kLoopback, kDefaultPort);
+
+    QVERIFY(listen.waitForFinished(10000));
+    QCOMPARE(listen.exitCode(), 0);
+    QJsonParseError parseError;
+    const QJsonObject report = QJsonDocument::fromJson(listen.readAllStandardOutput(), &parseError).object();
+    QCOMPARE(parseError.error, QJsonParseError::NoError);
+    QCOMPARE(report.value(QStringLiteral("artPolls")).toInt(), 1);
+    QCOMPARE(report.value(QStringLiteral("dmxPackets")).toInt(), 11);
+    QCOMPARE(report.value(QStringLiteral("sequenceErrors")).toInt(), 1);
+    QCOMPARE(report.value(QStringLiteral("ignored")).toInt(), 1);
+    QCOMPARE(report.value(QStringLiteral("universes")).toArray(), (QJsonArray{3, 0x12}));
+    QCOMPARE(report.value(QStringLiteral("source")).toString(), QStringLiteral("Art-Net"));
+    QVERIFY(report.contains(QStringLiteral("packetsPerSecond")));
+    QVERIFY(report.value(QStringLiteral("seconds")).toDouble() >= 2.9);
+}
+
+void TestListenCommand::advertisesThePatchUniverses()
+{
+    QTemporaryDir dir;
+    const QString patch = dir.filePath(QStringLiteral("demo.tpatch"));
+    QCOMPARE(QProcess::execute(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("generate"), QStringLiteral("demo-patch"), patch}), 0);
+    QProcess listen;
+    listen.start(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("listen"), QStringLiteral("--seconds"), QStringLiteral("0"),
+                                                 QStringLiteral("--patch"), patch, QStringLiteral("--port"),
+                                                 QStringLiteral("6460")});
+    QVERIFY(listen.waitForFinished(10000));
+    QCOMPARE(listen.exitCode(), 0);
+    const QString err = QString::fromUtf8(listen.readAllStandardError());
+    const QRegularExpression count(QStringLiteral("advertising (\\d+) universe"));
+    const QRegularExpressionMatch m = count.match(err);
+    QVERIFY2(m.hasMatch(), qPrintable(err));
+    QVERIFY(m.captured(1).toInt() > 0);
+}
+
+void TestListenCommand::refusals_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("bad universe") << QStringList{QStringLiteral("--universes"), QStringLiteral("1,0x8000")} << 2
+                                  << QStringLiteral("\"0x8000\" is not a Port-Address");
+    QTest::newRow("both sources") << QStringList{QStringLiteral("--universes"), QStringLiteral("1"), QStringLiteral("--patch"),
+                                                 QStringLiteral("x")}
+                                  << 2 << QStringLiteral("not both");
+    QTest::newRow("bad port") << QStringList{QStringLiteral("--port"), QStringLiteral("70000")} << 2
+                              << QStringLiteral("not a port number");
+    QTest::newRow("missing patch") << QStringList{QStringLiteral("--patch"), QStringLiteral("/nonexistent/x.tpatch")} << 1
+                                   << QString();
+    QTest::newRow("address not local") << QStringList{QStringLiteral("--address"), QStringLiteral("192.0.2.99"),
+                                                      QStringLiteral("--seconds"), QStringLiteral("1")}
+                                       << 1 << QStringLiteral("cannot listen on 192.0.2.99:6454 - ");
+}
+
+void TestListenCommand::refusals()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    QProcess listen;
+    listen.start(QStringLiteral(TALU_CLI_PATH), QStringList{QStringLiteral("listen")} + arguments);
+    QVERIFY(listen.waitForFinished(10000));
+    QCOMPARE(listen.exitCode(), exitCode);
+    const QString err = QString::fromUtf8(listen.readAllStandardError());
+    QVERIFY2(err.contains(message), qPrintable(err));
+}
+
+QTEST_GUILESS_MAIN(TestListenCommand)
+#include "tst_listencommand.moc"

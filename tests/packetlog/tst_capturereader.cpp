@@ -1,0 +1,233 @@
+#include "cli/samplelog.h"
+#include "packetlog/capturereader.h"
+#include "packetlog/pcapngwriter.h"
+
+#include <QBuffer>
+#include <QtTest>
+
+using namespace PacketLog;
+
+namespace {
+
+QByteArray be16(quint16 v)
+{
+    const char b[2] = {char(v >> 8), char(v)};
+    return QByteArray(b, 2);
+}
+QByteArray le32(quint32 v)
+{
+    const char b[4] = {char(v), char(v >> 8), char(v >> 16), char(v >> 24)};
+    return QByteArray(b, 4);
+}
+QByteArray be32(quint32 v) { return be16(quint16(v >> 16)) + be16(quint16(v)); }
+
+// IPv4 (no options, checksum left zero: readers do not check it) + UDP + payload.
+QByteArray ipUdp(const QByteArray &payload, quint8 protocol = 17, quint16 fragment = 0)
+{
+    return QByteArray("\x45\x00", 2) + be16(quint16(28 + payload.size())) // version/IHL, TOS, total length
+         + QByteArray("\x00\x01", 2) + be16(fragment)                     // id, flags/fragment offset
+         + QByteArray("\x40", 1) + QByteArray(1, char(protocol)) + QByteArray(2, '\0') // TTL, protocol, checksum
+         + be32(0xC0000202) + be32(0xC0000201)                           // 192.0.2.2 -> 192.0.2.1
+         + be16(6454) + be16(6455) + be16(quint16(8 + payload.size())) + QByteArray(2, '\0') // UDP
+         + payload;
+}
+
+QByteArray ethernet(const QByteArray &ip, bool vlan = false)
+{
+    QByteArray frame = QByteArray(6, char(0xFF)) + QByteArray("\x02\x00\xC0\x00\x02\x02", 6);
+    if (vlan)
+        frame += QByteArray("\x81\x00\x00\x05", 4); // 802.1Q tag, VLAN 5
+    return frame + QByteArray("\x08\x00", 2) + ip;
+}
+
+// A little-endian microsecond pcap with one link type and the given frames, one second apart.
+QByteArray pcap(quint32 linkType, const QList<QByteArray> &frames)
+{
+    QByteArray file = le32(0xA1B2C3D4) + QByteArray("\x02\x00\x04\x00", 4) + QByteArray(8, '\0') + le32(65535)
+                    + le32(linkType);
+    quint32 second = 1767225600;
+    for (const QByteArray &f : frames)
+        file += le32(second++) + le32(250) + le32(quint32(f.size())) + le32(quint32(f.size())) + f;
+    return file;
+}
+
+} // namespace
+
+class TestCaptureReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void linkTypes_data()
+    {
+        QTest::addColumn<quint32>("linkType");
+        QTest::addColumn<QByteArray>("frame");
+        const QByteArray ip = ipUdp(makeArtDmx(0x0203, 4, 16, 1));
+        QTest::newRow("ethernet") << 1u << ethernet(ip);
+        QTest::newRow("ethernet vlan") << 1u << ethernet(ip, true);
+        QTest::newRow("raw") << 101u << ip;
+        QTest::newRow("ipv4") << 228u << ip;
+        QTest::newRow("loopback") << 0u << (le32(2) + ip);
+        QTest::newRow("linux cooked") << 113u << (QByteArray(14, '\0') + be16(0x0800) + ip);
+        QTest::newRow("linux cooked v2") << 276u << (be16(0x0800) + QByteArray(18, '\0') + ip);
+    }
+    void linkTypes()
+    {
+        QFETCH(quint32, linkType);
+        QFETCH(QByteArray, frame);
+        const LogLoadResult r = readPcap(pcap(linkType, {frame}));
+        QVERIFY(r.ok);
+        QCOMPARE(r.format, QStringLiteral("pcap"));
+        QCOMPARE(int(r.records.size()), 1);
+        const PacketRecord &rec = r.records.front();
+        QCOMPARE(rec.srcIp, 0xC0000202u);
+        QCOMPARE(rec.dstIp, 0xC0000201u);
+        QCOMPARE(rec.srcPort, 6454);
+        QCOMPARE(rec.dstPort, 6455);
+        QCOMPARE(rec.opcode, kOpDmx);
+        QCOMPARE(rec.portAddress, 0x0203);
+        QCOMPARE(rec.sequence, 4);
+        QCOMPARE(rec.length, 34u);
+        QCOMPARE(rec.source, RecordSource::Capture);
+        QCOMPARE(rec.timeNs, 1767225600LL * 1000000000LL + 250000);
+    }
+
+    void skipsWhatIsNotUdpOverIpv4()
+    {
+        const QByteArray udp = ipUdp("abc");
+        const QList<QByteArray> frames{ethernet(ipUdp("abc", 6)),              // TCP
+                                       ethernet(udp).replace(12, 2, "\x86\xDD"), // IPv6 ethertype
+                                       ethernet(ipUdp("abc", 17, 0x0010)),    // later fragment
+                                       ethernet(udp).left(20),                // cut inside IPv4
+                                       ethernet(udp)};
+        const LogLoadResult r = readPcap(pcap(1, frames));
+        QVERIFY(r.ok);
+        QCOMPARE(int(r.records.size()), 1);
+        QCOMPARE(r.skipped, 4);
+        QCOMPARE(r.warnings.constFirst().untranslatedText(),
+                 QStringLiteral("4 packets were not UDP over IPv4 and were left out."));
+    }
+
+    void byteOrderAndNanoseconds()
+    {
+        const QByteArray frame = ipUdp("x");
+        QByteArray file = be32(0xA1B23C4D) + QByteArray("\x00\x02\x00\x04", 4) + QByteArray(8, '\0') + be32(65535)
+                        + be32(101) + be32(10) + be32(123456789) + be32(quint32(frame.size()))
+                        + be32(quint32(frame.size())) + frame;
+        const LogLoadResult r = readPcap(file);
+        QCOMPARE(int(r.records.size()), 1);
+        QCOMPARE(r.records.front().timeNs, 10123456789LL);
+    }
+
+    void damagedPcap_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("records");
+        QTest::addColumn<QString>("warning");
+        const QByteArray one = ethernet(ipUdp(makeArtPoll()));
+        const QByteArray whole = pcap(1, {one, one, one});
+        const int packetSize = 16 + int(one.size());
+        QTest::newRow("cut in a packet's data") << whole.left(24 + 2 * packetSize + 20) << 2
+            << QStringLiteral("The capture is cut short in packet 3 (at byte %1); the 2 packets before it were read.").arg(24 + 2 * packetSize);
+        QTest::newRow("cut in a packet header") << whole.left(24 + packetSize + 5) << 1
+            << QStringLiteral("The capture is cut short in packet 2 (at byte %1); the 1 packets before it were read.").arg(24 + packetSize);
+        QByteArray huge = whole;
+        huge.replace(24 + packetSize + 8, 4, le32(0x7FFFFFFF));
+        QTest::newRow("absurd length") << huge << 1
+            << QStringLiteral("The capture is damaged at packet 2 (at byte %1); the 1 packets before it were read.").arg(24 + packetSize);
+    }
+    void damagedPcap()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, records);
+        QFETCH(QString, warning);
+        const LogLoadResult r = readPcap(bytes);
+        QVERIFY(r.ok);
+        QCOMPARE(int(r.records.size()), records);
+        QCOMPARE(r.warnings.constFirst().untranslatedText(), warning);
+    }
+
+    void notACapture()
+    {
+        QVERIFY(!readPcap(QByteArray(10, 'x')).ok);
+        QVERIFY(!readPcapng(QByteArray(10, 'x')).ok);
+        QCOMPARE(readPcap("abc").error.untranslatedText(), QStringLiteral("This is not a pcap capture file."));
+    }
+
+    // record -> pcapng -> record keeps every field the file can carry.
+    void pcapngRoundTrip()
+    {
+        std::vector<PacketRecord> records = makeSampleLog();
+        records[5].source = RecordSource::Capture;
+        records[6].outcome = Outcome::Partial;
+        records[6].error = 10040;
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(writePcapng(records, &buffer, nullptr));
+        const LogLoadResult r = readPcapng(buffer.data());
+        QVERIFY(r.ok);
+        QVERIFY(r.warnings.isEmpty());
+        QCOMPARE(r.records.size(), records.size());
+        for (size_t i = 0; i < records.size(); ++i) {
+            PacketRecord expected = records[i];
+            QVERIFY2(r.records[i] == expected, qPrintable(QStringLiteral("record %1: %2").arg(i).arg(r.records[i].info())));
+        }
+    }
+
+    // A big-endian section from another writer: microsecond times (the default), a time offset, raw IPv4,
+    // an enhanced and a simple packet block, and a block type we do not know in between.
+    void bigEndianPcapng()
+    {
+        const QByteArray ip = ipUdp(makeArtDmx(0x0011, 2, 8, 0));
+        const auto block = [](quint32 type, const QByteArray &body) {
+            const quint32 total = quint32(12 + body.size());
+            return be32(type) + be32(total) + body + be32(total);
+        };
+        const QByteArray padded = ip + QByteArray((4 - ip.size() % 4) % 4, '\0');
+        const QByteArray file =
+            block(0x0A0D0D0A, be32(0x1A2B3C4D) + be16(1) + be16(0) + QByteArray(8, char(0xFF)))
+            + block(1, be16(101) + be16(0) + be32(0) + be16(14) + be16(8) + be32(0) + be32(100) + be32(0)) // if_tsoffset 100 s
+            + block(0x0BAD, QByteArray(8, 'x'))
+            + block(6, be32(0) + be32(0) + be32(3000001) + be32(quint32(ip.size())) + be32(quint32(ip.size())) + padded)
+            + block(3, be32(quint32(ip.size())) + padded);
+        const LogLoadResult r = readPcapng(file);
+        QVERIFY(r.ok);
+        QVERIFY(r.warnings.isEmpty());
+        QCOMPARE(int(r.records.size()), 2);
+        QCOMPARE(r.records[0].timeNs, 103000001000LL); // 3.000001 s + 100 s
+        QCOMPARE(r.records[0].portAddress, 0x0011);
+        QCOMPARE(r.records[0].source, RecordSource::Capture);
+        QCOMPARE(r.records[1].length, 26u);
+        QCOMPARE(r.records[1].timeNs, 100000000000LL); // simple packets carry no time
+    }
+
+    void damagedPcapng()
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(writePcapng(makeSampleLog(), &buffer, nullptr));
+        const QByteArray whole = buffer.data();
+        const qsizetype total = qsizetype(makeSampleLog().size());
+        for (qsizetype cut = 0; cut < whole.size(); cut += 37) {
+            const LogLoadResult r = readPcapng(whole.left(cut));
+            QVERIFY(qsizetype(r.records.size()) < total);
+            if (r.ok && cut > 0)
+                QVERIFY2(!r.warnings.isEmpty() || cut == 0, qPrintable(QString::number(cut)));
+        }
+        QByteArray corrupt = whole;
+        corrupt[whole.size() - 1] = 0x7F; // the last block's trailing length no longer matches
+        const LogLoadResult r = readPcapng(corrupt);
+        QCOMPARE(qsizetype(r.records.size()), total - 1);
+        QVERIFY(r.warnings.constFirst().untranslatedText().startsWith(
+            QStringLiteral("The capture is damaged at packet %1").arg(total)));
+        // Every byte flipped in turn: never a crash, never more records than the file has.
+        for (qsizetype i = 0; i < whole.size(); i += 3) {
+            QByteArray flipped = whole;
+            flipped[i] = char(flipped[i] ^ 0xA5);
+            QVERIFY(qsizetype(readPcapng(flipped).records.size()) <= total);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCaptureReader)
+#include "tst_capturereader.moc"

@@ -1,0 +1,266 @@
+#include "patch/importreport.h"
+
+#include <QCryptographicHash>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+using namespace TPatch;
+
+namespace {
+
+const QDateTime kNoon(QDate(2026, 3, 14), QTime(12, 30, 5));
+
+// Turns every patch text into upper case: enough of a second language to tell
+// translated from untranslated blocks.
+class ShoutingTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        if (QByteArray(context) != "TPatch")
+            return {};
+        return QString::fromUtf8(sourceText).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+PatchLoadResult warned()
+{
+    PatchLoadResult r;
+    r.ok = true;
+    r.patch.formatLabel = QStringLiteral("MADRIX 5 patch (.mpz)");
+    r.warnings = {PatchMessage("%1 fixture(s) are incomplete in the file and were skipped.", {qint64(2)}),
+                  PatchMessage("Color channels the tester cannot show yet were ignored: %1",
+                               {QStringLiteral("UV (6)")})};
+    return r;
+}
+
+PatchLoadResult failed()
+{
+    PatchLoadResult r;
+    r.patch.formatLabel = QStringLiteral("ENTTEC ELM project (.elm)");
+    r.error = PatchMessage("\"%1\" contains no DMX fixtures that can be shown.", {QStringLiteral("a.elm")});
+    return r;
+}
+
+QString writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    if (f.open(QIODevice::WriteOnly))
+        f.write(bytes);
+    return path;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestImportReport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void layout_data();
+    void layout();
+    void sameLoadReusesItsFolder();
+    void languageDoesNotChangeTheFingerprint();
+    void foldersWithinOneSecondCount();
+    void unreadableSource();
+    void copyStaysInsideTheFolder();
+    void logsFolderFallsBack();
+};
+
+void TestImportReport::layout_data()
+{
+    QTest::addColumn<PatchLoadResult>("result");
+    QTest::addColumn<QString>("resultLine");
+    QTest::addColumn<QString>("block");
+
+    QTest::newRow("warnings") << warned() << "loaded with 2 warning(s)"
+                              << "Warnings:\n"
+                                 "  1. 2 fixture(s) are incomplete in the file and were skipped.\n"
+                                 "  2. Color channels the tester cannot show yet were ignored: UV (6)\n";
+    QTest::newRow("error") << failed() << "not loaded"
+                           << "Error:\n  \"a.elm\" contains no DMX fixtures that can be shown.\n";
+    PatchLoadResult clean;
+    clean.ok = true;
+    clean.patch.formatLabel = QStringLiteral("Torvane MOX patch (.tpatch)");
+    QTest::newRow("clean") << clean << "loaded with 0 warning(s)"
+                           << "";
+}
+
+void TestImportReport::layout()
+{
+    QFETCH(PatchLoadResult, result);
+    QFETCH(QString, resultLine);
+    QFETCH(QString, block);
+    QTemporaryDir dir;
+    const QByteArray bytes("<madrix_patch/>\n");
+    const QString source = writeFile(dir.filePath(QStringLiteral("wall.mpz")), bytes);
+    const QString logs = dir.filePath(QStringLiteral("logs"));
+    QVERIFY(QDir().mkpath(logs));
+
+    const ImportReportResult r = writeImportReport(logs, source, result, QStringLiteral("English"), kNoon);
+    QVERIFY2(r.ok, qPrintable(r.error));
+    QVERIFY(!r.reused);
+    QCOMPARE(r.folder, QDir(logs).filePath(QStringLiteral("2026-03-14_12-30-05")));
+    QCOMPARE(readFile(QDir(r.folder).filePath(QStringLiteral("wall.mpz"))), bytes);
+
+    const QString fileHash =
+        QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+    const QString fingerprint = QString::fromLatin1(
+        QCryptographicHash::hash(bytes + block.toUtf8(), QCryptographicHash::Sha256).toHex());
+    QCOMPARE(importFingerprint(bytes, result), fingerprint);
+    const QString expected = QStringLiteral("Torvane TALU 1.0.0 - patch import report\n"
+                                            "Fingerprint: %1\n"
+                                            "\n"
+                                            "Time:      2026-03-14 12:30:05\n"
+                                            "Source:    %2\n"
+                                            "Format:    %3\n"
+                                            "Size:      16 bytes\n"
+                                            "SHA-256:   %4\n"
+                                            "Copy:      wall.mpz\n"
+                                            "Result:    %5\n"
+                                            "Language:  English\n")
+                                 .arg(fingerprint, QDir::toNativeSeparators(source), result.patch.formatLabel,
+                                      fileHash, resultLine) +
+                             block + QStringLiteral("\n--- In the interface language (English) ---\n\n") +
+                             block;
+    const QByteArray report = readFile(QDir(r.folder).filePath(QStringLiteral("report.txt")));
+    QVERIFY(report.startsWith("\xEF\xBB\xBF"));
+    QCOMPARE(QString::fromUtf8(report.mid(3)), expected);
+}
+
+void TestImportReport::sameLoadReusesItsFolder()
+{
+    QTemporaryDir dir;
+    const QString source = writeFile(dir.filePath(QStringLiteral("a.elm")), "<console appVersion=\"1\"/>");
+    const QString logs = dir.path();
+    const ImportReportResult first =
+        writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon);
+    QVERIFY(first.ok);
+    const ImportReportResult again =
+        writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon.addSecs(3600));
+    QVERIFY(again.ok);
+    QVERIFY(again.reused);
+    QCOMPARE(again.folder, first.folder);
+    // Another outcome for the same bytes, or other bytes, is another load.
+    const ImportReportResult other =
+        writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+    QVERIFY(!other.reused);
+    QVERIFY(other.folder != first.folder);
+    writeFile(source, "<console appVersion=\"2\"/>");
+    QVERIFY(!writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon).reused);
+}
+
+void TestImportReport::languageDoesNotChangeTheFingerprint()
+{
+    QTemporaryDir dir;
+    const QString source = writeFile(dir.filePath(QStringLiteral("wall.mpz")), "x");
+    const ImportReportResult english =
+        writeImportReport(dir.path(), source, warned(), QStringLiteral("English"), kNoon);
+    ShoutingTranslator shouting;
+    QCoreApplication::installTranslator(&shouting);
+    const ImportReportResult loud =
+        writeImportReport(dir.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    // A fresh folder in the other language shows both blocks.
+    QTemporaryDir other;
+    const ImportReportResult fresh =
+        writeImportReport(other.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    QCoreApplication::removeTranslator(&shouting);
+    QVERIFY(loud.reused);
+    QCOMPARE(loud.folder, english.folder);
+    const QString text =
+        QString::fromUtf8(readFile(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
+    QVERIFY(text.contains(QStringLiteral("Warnings:\n  1. 2 fixture(s) are incomplete")));
+    QVERIFY(text.contains(
+        QStringLiteral("--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE "
+                       "INCOMPLETE")));
+}
+
+void TestImportReport::foldersWithinOneSecondCount()
+{
+    QTemporaryDir dir;
+    QStringList names;
+    for (int i = 0; i < 3; ++i) {
+        const QString source =
+            writeFile(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
+        const QString logs = dir.filePath(QStringLiteral("logs"));
+        QDir().mkpath(logs);
+        const ImportReportResult r =
+            writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+        QVERIFY(r.ok);
+        names.append(QFileInfo(r.folder).fileName());
+    }
+    QCOMPARE(names, (QStringList{"2026-03-14_12-30-05", "2026-03-14_12-30-05_2", "2026-03-14_12-30-05_3"}));
+}
+
+void TestImportReport::unreadableSource()
+{
+    QTemporaryDir dir;
+    const QString source = dir.filePath(QStringLiteral("gone.tpatch"));
+    const ImportReportResult r =
+        writeImportReport(dir.path(), source, failed(), QStringLiteral("English"), kNoon);
+    QVERIFY(r.ok);
+    const QString text = QString::fromUtf8(readFile(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
+    QVERIFY(text.contains(QStringLiteral("\nSHA-256:   -\n")));
+    QVERIFY(text.contains(QStringLiteral("\nCopy:      not saved - the source could not be read: ")));
+    QCOMPARE(QDir(r.folder).entryList(QDir::Files), QStringList{QStringLiteral("report.txt")});
+
+    // A logs folder that cannot be made is a failure with the folder named.
+    const QString blocker = writeFile(dir.filePath(QStringLiteral("file")), "x");
+    const ImportReportResult bad =
+        writeImportReport(blocker, source, failed(), QStringLiteral("English"), kNoon);
+    QVERIFY(!bad.ok);
+    QCOMPARE(bad.error, QStringLiteral("could not create %1")
+                            .arg(QDir::toNativeSeparators(
+                                QDir(blocker).filePath(QStringLiteral("2026-03-14_12-30-05")))));
+}
+
+void TestImportReport::copyStaysInsideTheFolder()
+{
+    QTemporaryDir dir;
+    QDir().mkpath(dir.filePath(QStringLiteral("deep/er")));
+    const QString source = writeFile(dir.filePath(QStringLiteral("deep/er/report.txt")), "not a report");
+    const QString logs = dir.filePath(QStringLiteral("logs"));
+    QDir().mkpath(logs);
+    const ImportReportResult r =
+        writeImportReport(logs, dir.filePath(QStringLiteral("deep/../deep/er/report.txt")), warned(),
+                          QStringLiteral("English"), kNoon);
+    QVERIFY(r.ok);
+    QCOMPARE(QDir(r.folder).entryList(QDir::Files, QDir::Name),
+             (QStringList{QStringLiteral("report.txt"), QStringLiteral("source-report.txt")}));
+    QVERIFY(readFile(QDir(r.folder).filePath(QStringLiteral("report.txt"))).startsWith("\xEF\xBB\xBF"));
+    QCOMPARE(QDir(logs).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+}
+
+void TestImportReport::logsFolderFallsBack()
+{
+    QTemporaryDir dir;
+    const QString good = dir.filePath(QStringLiteral("beside/logs"));
+    const QString perUser = dir.filePath(QStringLiteral("user/logs"));
+    QCOMPARE(importLogsFolder(good, perUser), good);
+    QVERIFY(QFileInfo(good).isDir());
+    QCOMPARE(QDir(good).entryList(QDir::Files).size(), 0); // the probe is gone again
+
+    // Beside the program is a file, not a folder: the per-user folder is used.
+    const QString blocked = writeFile(dir.filePath(QStringLiteral("blocked")), "x") + QStringLiteral("/logs");
+    QCOMPARE(importLogsFolder(blocked, perUser), perUser);
+    QVERIFY(QFileInfo(perUser).isDir());
+    QVERIFY(importLogsFolder(blocked, blocked).isEmpty());
+
+    // The default per-user folder is the test-mode data location, never the user's own.
+    const QString fallback = importLogsFolder(blocked);
+    QVERIFY(fallback.startsWith(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+    QVERIFY(fallback.endsWith(QStringLiteral("/logs")));
+}
+
+QTEST_GUILESS_MAIN(TestImportReport)
+#include "tst_importreport.moc"

@@ -1,0 +1,574 @@
+#include "cli/madrixsample.h"
+#include "patch/gzipinflate.h"
+#include "patch/madrixreader.h"
+#include "patch/patchkeys.h"
+#include "patch/patchloader.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TPatch;
+
+Q_DECLARE_METATYPE(MadrixSampleFixture)
+
+namespace {
+
+const QString kFile = QStringLiteral("show.mpz");
+
+// Slot roles as six digits, "123000" for R, G, B.
+QString rolesText(const LedRecord &led)
+{
+    QString s;
+    for (quint8 r : led.roles)
+        s += QString::number(r);
+    return s;
+}
+
+QString cellsText(const PatchFixture &f)
+{
+    QStringList cells;
+    for (const LedRecord &led : f.leds)
+        cells.append(QStringLiteral("%1,%2").arg(led.posX).arg(led.posY));
+    return cells.join(u';');
+}
+
+QStringList warningTexts(const PatchLoadResult &r)
+{
+    QStringList out;
+    for (const PatchMessage &m : r.warnings)
+        out.append(m.untranslatedText());
+    return out;
+}
+
+MadrixSampleChannel channel(const char *name, int number, int colour, int fixed = 0)
+{
+    MadrixSampleChannel c;
+    c.name = QString::fromLatin1(name);
+    c.number = QString::number(number);
+    c.colorChannel = QString::number(colour);
+    c.fixedValue = QString::number(fixed);
+    return c;
+}
+
+MadrixSampleFixture rgbFixture(const QString &name)
+{
+    MadrixSampleFixture f;
+    f.displayNameUser = name;
+    f.channels = madrixChannels(1, QStringLiteral("RGB"));
+    return f;
+}
+
+// One well-formed fixture keeps every load alive, so a row can look at the other.
+MadrixSample withBaseline(const MadrixSampleFixture &tested)
+{
+    MadrixSample s;
+    MadrixSampleFixture base = rgbFixture(QStringLiteral("base"));
+    base.universe = QStringLiteral("9");
+    s.fixtures = {base, tested};
+    return s;
+}
+
+const PatchFixture *findFixture(const PatchLoadResult &r, const QString &name,
+                                quint16 *portAddressOut = nullptr)
+{
+    for (const PatchGroup &g : r.patch.groups)
+        for (const Torvoverse &t : g.torvoverses)
+            for (const PatchFixture &f : t.fixtures)
+                if (f.fixtureName == name) {
+                    if (portAddressOut)
+                        *portAddressOut = portAddress(t);
+                    return &f;
+                }
+    return nullptr;
+}
+
+} // namespace
+
+class TestMadrixReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void mapping_data();
+    void mapping();
+    void placement();
+    void everyWarningInOrder();
+    void failures_data();
+    void failures();
+    void plainAndGzipReadAlike();
+    void gzipBombStopsAtTheLimit();
+    void hostileXmlIsBounded_data();
+    void hostileXmlIsBounded();
+    void largePatchReadsAsInOnePass_data();
+    void largePatchReadsAsInOnePass();
+    void loaderSniffsMadrix();
+};
+
+void TestMadrixReader::mapping_data()
+{
+    QTest::addColumn<MadrixSampleFixture>("fixture");
+    QTest::addColumn<bool>("present");
+    QTest::addColumn<int>("portAddress");
+    QTest::addColumn<QString>("roles");
+    QTest::addColumn<int>("address");
+    QTest::addColumn<QString>("cells");
+    QTest::addColumn<QStringList>("warnings");
+
+    const QString ignoredAmber =
+        QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4)");
+    const QString rotated =
+        QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
+                       "been verified against MADRIX yet. Check them on the monitor.");
+    const QString badUniverse = QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net "
+                                               "Port-Address and were skipped.");
+    const QString incomplete = QStringLiteral("1 fixture(s) are incomplete in the file and were skipped.");
+
+    MadrixSampleFixture f = rgbFixture(QStringLiteral("T"));
+    QTest::newRow("rgb in universe 1") << f << true << 0 << "123000" << 0 << "0,0" << QStringList();
+    f.universe = QStringLiteral("32768");
+    QTest::newRow("universe 32768 is 32767") << f << true << 32767 << "123000" << 0 << "0,0" << QStringList();
+    f.universe = QStringLiteral("32769");
+    QTest::newRow("universe 32769") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    f.universe = QStringLiteral("4294967297");
+    QTest::newRow("universe wrapping 32 bits")
+        << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    f.universe = QStringLiteral("0");
+    QTest::newRow("universe 0") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    f.universe = QStringLiteral("-4");
+    QTest::newRow("negative universe") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+
+    f = rgbFixture(QStringLiteral("T"));
+    f.channels.append(channel("Cool White", 3, 5));
+    QTest::newRow("cool white is CW") << f << true << 0 << "123500" << 0 << "0,0" << QStringList();
+    f.channels.last() = channel("Cold White", 3, 7);
+    QTest::newRow("cold white is CW") << f << true << 0 << "123500" << 0 << "0,0" << QStringList();
+    f.channels.last() = channel("Warm White", 3, 4);
+    QTest::newRow("warm white is WW") << f << true << 0 << "123600" << 0 << "0,0" << QStringList();
+    f.channels.last() = channel("White", 3, 3);
+    QTest::newRow("colour 3 is W") << f << true << 0 << "123400" << 0 << "0,0" << QStringList();
+    f.channels.last() = channel("Amber", 3, 4);
+    QTest::newRow("amber ignored") << f << true << 0 << "123000" << 0 << "0,0" << QStringList{ignoredAmber};
+
+    f = rgbFixture(QStringLiteral("T"));
+    f.channels = {channel("Mode", 0, 9, 255), channel("Red", 1, 0), channel("Green", 2, 1),
+                  channel("Blue", 3, 2)};
+    f.dmxChannel = QStringLiteral("20");
+    QTest::newRow("fixed channel skipped") << f << true << 0 << "123000" << 21 << "0,0" << QStringList();
+    f.channels = {channel("Blue", 2, 2), channel("Red", 0, 0), channel("Green", 1, 1)};
+    QTest::newRow("channel-number order") << f << true << 0 << "123000" << 20 << "0,0" << QStringList();
+    f.channels = {channel("Red", 0, 0), channel("Green", 1, 1), channel("Blue", 7, 2)};
+    QTest::newRow("wide pixel") << f << true << 0 << "120000" << 20 << "0,0"
+                                << QStringList{QStringLiteral(
+                                       "1 fixture(s) have pixels whose color channels span "
+                                       "more than 6 DMX channels; only the first 6 are shown.")};
+    f = rgbFixture(QStringLiteral("T"));
+    f.dmxChannel = QStringLiteral("510");
+    QTest::newRow("past 512") << f << true << 0 << "123000" << 510 << "0,0"
+                              << QStringList{QStringLiteral(
+                                     "1 fixture(s) run past DMX channel 512 of their universe; "
+                                     "channels beyond 512 are not shown.")};
+    f.dmxChannel = QStringLiteral("509");
+    QTest::newRow("ends on 512") << f << true << 0 << "123000" << 509 << "0,0" << QStringList();
+
+    // A 3 x 2 grid, pixels numbered row by row.
+    f = rgbFixture(QStringLiteral("T"));
+    f.pixelCount = QStringLiteral("3, 2, 1");
+    f.channels = madrixChannels(6, QStringLiteral("RGB"));
+    QTest::newRow("grid unrotated") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
+                                    << QStringList();
+    f.rotation = QStringLiteral("1");
+    QTest::newRow("quarter turn") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
+                                  << QStringList{rotated};
+    f.rotation = QStringLiteral("2");
+    QTest::newRow("half turn") << f << true << 0 << "123000" << 0 << "2,1;1,1;0,1;2,0;1,0;0,0"
+                               << QStringList{rotated};
+    f.rotation = QStringLiteral("3");
+    QTest::newRow("three quarters") << f << true << 0 << "123000" << 0 << "0,2;0,1;0,0;1,2;1,1;1,0"
+                                    << QStringList{rotated};
+    f.rotation = QStringLiteral("5");
+    QTest::newRow("low two bits") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
+                                  << QStringList{rotated};
+    f.rotation = QStringLiteral("quarter");
+    QTest::newRow("odd rotation") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
+                                  << QStringList{
+                                         QStringLiteral("Some MADRIX fields are not supported yet and were "
+                                                        "ignored: fixture_settings/rotation=quarter")};
+    f = rgbFixture(QStringLiteral("T"));
+    f.rotation = QStringLiteral("1");
+    QTest::newRow("turned single pixel") << f << true << 0 << "123000" << 0 << "0,0" << QStringList();
+
+    f = rgbFixture(QStringLiteral("T"));
+    f.protocolType = QStringLiteral("DVI");
+    QTest::newRow("dvi") << f << false << 0 << "" << 0 << ""
+                         << QStringList{
+                                QStringLiteral("1 DVI fixture(s) were skipped: they have no DMX address, so "
+                                               "nothing of theirs reaches Art-Net.")};
+    f = rgbFixture(QStringLiteral("T"));
+    f.channels = {channel("Amber", 0, 4)};
+    QTest::newRow("only amber") << f << false << 0 << "" << 0 << ""
+                                << QStringList{ignoredAmber,
+                                               QStringLiteral("1 fixture(s) have no color channel the "
+                                                              "tester can show and were skipped.")};
+    f = rgbFixture(QStringLiteral("T"));
+    f.withSettings = false;
+    QTest::newRow("no settings") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    f = rgbFixture(QStringLiteral("T"));
+    f.universe = QStringLiteral("one");
+    QTest::newRow("universe not a number") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    f = rgbFixture(QStringLiteral("T"));
+    f.pixelCount = QStringLiteral("4, 1");
+    QTest::newRow("fewer channels than pixels")
+        << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+}
+
+void TestMadrixReader::mapping()
+{
+    QFETCH(MadrixSampleFixture, fixture);
+    QFETCH(bool, present);
+    const PatchLoadResult r = parseMadrixPatch(writeMadrixXml(withBaseline(fixture)), kFile, kFile);
+    QVERIFY(r.ok);
+    QFETCH(QStringList, warnings);
+    QCOMPARE(warningTexts(r), warnings);
+    quint16 pa = 0;
+    const PatchFixture *f = findFixture(r, QStringLiteral("T"), &pa);
+    QCOMPARE(f != nullptr, present);
+    if (!f)
+        return;
+    QFETCH(int, portAddress);
+    QFETCH(QString, roles);
+    QFETCH(int, address);
+    QFETCH(QString, cells);
+    QCOMPARE(int(pa), portAddress);
+    QCOMPARE(rolesText(f->leds.first()), roles);
+    QCOMPARE(int(f->leds.first().address), address);
+    QCOMPARE(cellsText(*f), cells);
+}
+
+// The rule the monitor relies on: one matrix voxel is a 10 x 10 scene cell, the
+// rectangle holds the turned grid, and the scene position is the matrix position.
+void TestMadrixReader::placement()
+{
+    MadrixSampleFixture f = rgbFixture(QStringLiteral("T"));
+    f.pixelCount = QStringLiteral("3, 2, 1");
+    f.channels = madrixChannels(6, QStringLiteral("RGB"));
+    f.position = QStringLiteral("4, 2, 7");
+    f.rotation = QStringLiteral("1");
+    const PatchLoadResult r = parseMadrixPatch(writeMadrixXml(withBaseline(f)), kFile, kFile);
+    const PatchFixture *p = findFixture(r, QStringLiteral("T"));
+    QVERIFY(p);
+    QVERIFY(p->hasLayout);
+    QVERIFY(!p->freePositions);
+    QCOMPARE(p->scenePosX, 40.0);
+    QCOMPARE(p->scenePosY, 20.0);
+    QCOMPARE(p->rect, QRectF(0, 0, 20, 30)); // 2 wide, 3 high after the quarter turn
+    QCOMPARE(p->rotationAngle, 0.0);
+    QCOMPARE(int(p->countX), 2);
+    QCOMPARE(int(p->countY), 3);
+    QCOMPARE(p->dimX, 2);
+    QCOMPARE(p->dimY, 3);
+    QCOMPARE(p->resizeFactor, 1);
+    for (const LedRecord &led : p->leds)
+        QCOMPARE(int(led.posZ), 7);
+    QCOMPARE(int(p->leds.at(1).address), 3);
+
+    QCOMPARE(r.patch.groups.size(), 1);
+    QCOMPARE(r.patch.groups.first().groupName, QStringLiteral("MADRIX"));
+    QVERIFY(!r.patch.groups.first().groupId.isNull());
+    QCOMPARE(r.patch.formatLabel, QStringLiteral("MADRIX 5 patch (.mpz)"));
+    QCOMPARE(r.patch.sourceKind, SourceKind::Madrix);
+    // Torvoverses ascend by Port-Address: universe 1 (0x0000) before the baseline's 9 (0x0008).
+    QCOMPARE(r.patch.groups.first().torvoverses.size(), 2);
+    QCOMPARE(int(portAddress(r.patch.groups.first().torvoverses.at(0))), 0);
+    QCOMPARE(int(portAddress(r.patch.groups.first().torvoverses.at(1))), 8);
+    const PatchLoadResult again = parseMadrixPatch(writeMadrixXml(withBaseline(f)), kFile, kFile);
+    QVERIFY(again.patch.groups.first().groupId != r.patch.groups.first().groupId);
+}
+
+void TestMadrixReader::everyWarningInOrder()
+{
+    MadrixSample s;
+    s.version = QStringLiteral("0x05010000");
+    s.product = QStringLiteral("MADRIX 5.1");
+    s.extraElements = {QStringLiteral("save_date"), QStringLiteral("is_patched")};
+    s.fixtureGroups = 3;
+    MadrixSampleFixture good = rgbFixture(QStringLiteral("good"));
+    MadrixSampleFixture rotated = good;
+    rotated.pixelCount = QStringLiteral("2, 1");
+    rotated.channels = madrixChannels(2, QStringLiteral("RGB"));
+    rotated.rotation = QStringLiteral("2");
+    MadrixSampleFixture amber = good;
+    amber.channels.append(channel("Amber", 3, 4));
+    MadrixSampleFixture wide = good;
+    wide.channels.last().number = QStringLiteral("9");
+    MadrixSampleFixture past = good;
+    past.dmxChannel = QStringLiteral("511");
+    MadrixSampleFixture dvi = good;
+    dvi.protocolType = QStringLiteral("DVI");
+    MadrixSampleFixture dark = good;
+    dark.channels = {channel("UV", 0, 6)};
+    MadrixSampleFixture far = good;
+    far.universe = QStringLiteral("40000");
+    MadrixSampleFixture broken = good;
+    broken.withSpecification = false;
+    s.fixtures = {good, rotated, amber, wide, past, dvi, dvi, dark, far, broken};
+
+    const PatchLoadResult r = parseMadrixPatch(writeMadrixXml(s), kFile, kFile);
+    QVERIFY(r.ok);
+    QCOMPARE(r.patch.importedFrom, QStringLiteral("MADRIX 5.1 (file version 0x05010000)"));
+    const QStringList expected{
+        QStringLiteral(
+            "\"show.mpz\" was saved by MADRIX 5.1 (file version 0x05010000), which this importer has not "
+            "been checked against. Verify the result on the monitor."),
+        QStringLiteral(
+            "Some MADRIX fields are not supported yet and were ignored: product, save_date, is_patched, "
+            "fixture_group_list"),
+        QStringLiteral(
+            "3 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were "
+            "placed in one group."),
+        QStringLiteral(
+            "1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified "
+            "against MADRIX yet. Check them on the monitor."),
+        QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4), UV (6)"),
+        QStringLiteral(
+            "1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first "
+            "6 are shown."),
+        QStringLiteral(
+            "1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown."),
+        QStringLiteral(
+            "2 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches "
+            "Art-Net."),
+        QStringLiteral("1 fixture(s) have no color channel the tester can show and were skipped."),
+        QStringLiteral(
+            "1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped."),
+        QStringLiteral("1 fixture(s) are incomplete in the file and were skipped."),
+    };
+    QCOMPARE(warningTexts(r), expected);
+}
+
+void TestMadrixReader::failures_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("error"); // exact, or a prefix when it ends in "..."
+
+    const QString unreadable = QStringLiteral("\"show.mpz\" is not a readable MADRIX patch: ");
+    QTest::newRow("empty") << QByteArray() << unreadable + QStringLiteral("the document has no root element");
+    QTest::newRow("only a declaration") << QByteArray("<?xml version=\"1.0\"?>\n")
+                                        << unreadable + QStringLiteral("the document has no root element");
+    QTest::newRow("other root") << QByteArray("<console appVersion=\"1\"/>")
+                                << unreadable + QStringLiteral("the <madrix_patch> root element is missing");
+    QTest::newRow("no list") << QByteArray("<madrix_patch version=\"0x05000000\"><patch/></madrix_patch>")
+                             << unreadable + QStringLiteral("the <fixture_list> element is missing");
+    QTest::newRow("cut off") << QByteArray("<madrix_patch>\n<patch>\n<fixture_list>")
+                             << unreadable + QStringLiteral("Premature end of document. (line 3)");
+    QTest::newRow("not xml") << QByteArray("{\"corePatchData\": []}") << unreadable + QStringLiteral("...");
+
+    const QByteArray gz = gzipCompress(writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T")))));
+    QTest::newRow("truncated gzip") << gz.left(gz.size() / 2)
+                                    << unreadable + QStringLiteral("the file is truncated");
+    QTest::newRow("gzip header only") << gz.left(10) << unreadable + QStringLiteral("the file is truncated");
+    QByteArray corrupt = gz;
+    for (qsizetype i = 12; i < corrupt.size() - 8; i += 7)
+        corrupt[i] = char(corrupt.at(i) ^ 0x5A);
+    QTest::newRow("corrupt gzip") << corrupt << unreadable + QStringLiteral("...");
+    QByteArray badCrc = gz;
+    badCrc[badCrc.size() - 6] = char(badCrc.at(badCrc.size() - 6) ^ 1);
+    QTest::newRow("bad checksum") << badCrc << unreadable + QStringLiteral("incorrect data check");
+
+    MadrixSample nothing;
+    MadrixSampleFixture dvi = rgbFixture(QStringLiteral("T"));
+    dvi.protocolType = QStringLiteral("DVI");
+    nothing.fixtures = {dvi};
+    QTest::newRow("nothing to show") << writeMadrixXml(nothing)
+                                     << QStringLiteral(
+                                            "\"show.mpz\" contains no DMX fixtures that can be shown.");
+    nothing.fixtures.clear();
+    QTest::newRow("empty list") << writeMadrixXml(nothing)
+                                << QStringLiteral("\"show.mpz\" contains no DMX fixtures that can be shown.");
+}
+
+void TestMadrixReader::failures()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, error);
+    const PatchLoadResult r = parseMadrixPatch(bytes, kFile, kFile);
+    QVERIFY(!r.ok);
+    QVERIFY(r.patch.groups.isEmpty());
+    QCOMPARE(r.patch.formatLabel, QStringLiteral("MADRIX 5 patch (.mpz)"));
+    const QString text = r.error.untranslatedText();
+    if (error.endsWith(QLatin1StringView("...")))
+        QVERIFY2(text.startsWith(error.chopped(3)) && text.size() > error.size() - 3, qPrintable(text));
+    else
+        QCOMPARE(text, error);
+}
+
+void TestMadrixReader::plainAndGzipReadAlike()
+{
+    MadrixSample s = makeMadrixMatrix(400, 20);
+    const QByteArray xml = writeMadrixXml(s);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString plainPath = dir.filePath(QStringLiteral("plain.mpz"));
+    const QString gzipPath = dir.filePath(QStringLiteral("packed.mpz"));
+    QFile plain(plainPath);
+    QVERIFY(plain.open(QIODevice::WriteOnly));
+    plain.write(xml);
+    plain.close();
+    QFile packed(gzipPath);
+    QVERIFY(packed.open(QIODevice::WriteOnly));
+    packed.write(gzipCompress(xml));
+    packed.close();
+
+    const PatchLoadResult a = readMadrixPatch(plainPath);
+    const PatchLoadResult b = readMadrixPatch(gzipPath);
+    QVERIFY(a.ok);
+    QVERIFY(b.ok);
+    QCOMPARE(countPatch(a.patch).fixtures, 400);
+    QCOMPARE(countPatch(b.patch).pixels, 400);
+    QCOMPARE(a.patch.groups.first().torvoverses.size(), 3); // 170 + 170 + 60
+    QCOMPARE(b.patch.groups.first().torvoverses.size(), 3);
+    QCOMPARE(a.warnings, b.warnings);
+    QCOMPARE(a.patch.sourcePath, plainPath);
+    const Torvoverse &t = b.patch.groups.first().torvoverses.at(1);
+    QCOMPARE(int(t.fixtures.first().leds.first().address), 0);
+    QCOMPARE(t.fixtures.first().scenePosX, 170 % 20 * 10.0);
+
+    const PatchLoadResult missing = readMadrixPatch(dir.filePath(QStringLiteral("gone.mpz")));
+    QVERIFY(!missing.ok);
+    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.mpz\": ")));
+}
+
+void TestMadrixReader::gzipBombStopsAtTheLimit()
+{
+    // Small limits first: exactly at the limit passes, one byte more fails.
+    const QByteArray small = gzipBomb(100000 - 14);
+    QVERIFY(inflateGzip(small, 100000).ok);
+    QCOMPARE(inflateGzip(small, 100000).bytes.size(), 100000);
+    const InflateResult over = inflateGzip(small, 99999);
+    QVERIFY(!over.ok);
+    QVERIFY(over.bytes.isEmpty());
+    QCOMPARE(over.error.untranslatedText(), QStringLiteral("the unpacked data is too large"));
+
+    // The real limit through the reader: a file of well under a megabyte.
+    const QByteArray bomb = gzipBomb(kMaxInflatedBytes);
+    QVERIFY(bomb.size() < 1024 * 1024);
+    const PatchLoadResult r = parseMadrixPatch(bomb, kFile, kFile);
+    QVERIFY(!r.ok);
+    QCOMPARE(r.error.untranslatedText(),
+             QStringLiteral("\"show.mpz\" is not a readable MADRIX patch: the unpacked data is too large"));
+}
+
+void TestMadrixReader::hostileXmlIsBounded_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("ok");
+
+    QByteArray laughs =
+        "<?xml version=\"1.0\"?>\n<!DOCTYPE madrix_patch [\n<!ENTITY a0 \"hahahahahahahahahaha\">\n";
+    for (int i = 1; i < 12; ++i)
+        laughs += QStringLiteral("<!ENTITY a%1 \"&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;&a%2;\">\n")
+                      .arg(i)
+                      .arg(i - 1)
+                      .toLatin1();
+    laughs += "]>\n<madrix_patch><product>&a11;</product><patch><fixture_list/></patch></madrix_patch>";
+    QTest::newRow("entity expansion") << laughs << false;
+
+    QByteArray deep = "<madrix_patch><patch><fixture_list><fixture><fixture_settings>";
+    deep += QByteArray("<a>").repeated(100000);
+    deep += QByteArray("</a>").repeated(100000);
+    deep += "</fixture_settings></fixture></fixture_list></patch></madrix_patch>";
+    QTest::newRow("deep nesting in a fixture") << deep << false;
+    QByteArray deepTop = "<madrix_patch>" + QByteArray("<x>").repeated(200000);
+    QTest::newRow("deep and unclosed") << deepTop << false;
+
+    QTest::newRow("external entity")
+        << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE m [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>"
+                      "<madrix_patch><product>&e;</product><patch><fixture_list/></patch></madrix_patch>")
+        << false;
+}
+
+void TestMadrixReader::hostileXmlIsBounded()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, ok);
+    QElapsedTimer timer;
+    timer.start();
+    const PatchLoadResult r = parseMadrixPatch(bytes, kFile, kFile);
+    QCOMPARE(r.ok, ok);
+    QVERIFY(!r.error.isEmpty());
+    qInfo("%s in %lld ms", qPrintable(r.error.untranslatedText().left(160)), timer.elapsed());
+}
+
+// Large documents are read in two halves on two threads; the result must be
+// the single pass's, fixture for fixture and warning for warning. A document
+// type declaration keeps a document in one pass, which gives the reference.
+void TestMadrixReader::largePatchReadsAsInOnePass_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    MadrixSample s = makeMadrixMatrix(6000, 80);
+    s.product = QStringLiteral("MADRIX 5.7");
+    s.fixtureGroups = 2;
+    for (int i : {10, 2999, 3001, 5990}) {
+        s.fixtures[i].rotation = QStringLiteral("r%1").arg(i);
+        s.fixtures[i].channels.append(channel(i < 3000 ? "Amber" : "UV", 3, 4 + i % 3));
+        s.fixtures[i + 1].universe = QStringLiteral("0");
+    }
+    const QByteArray xml = writeMadrixXml(s);
+    QVERIFY(xml.size() > 4 * 1024 * 1024);
+    QTest::newRow("between fixtures") << xml;
+    // The middle "<fixture>" sits in a comment: the halves do not parse and the single pass takes over.
+    QByteArray commented = xml;
+    const qsizetype middle = commented.indexOf("<fixture>", commented.size() / 2);
+    commented.insert(middle,
+                     "<!-- a <fixture> mentioned in passing --><fixture><fixture_specification/></fixture>");
+    QTest::newRow("cut inside a comment") << commented;
+}
+
+void TestMadrixReader::largePatchReadsAsInOnePass()
+{
+    QFETCH(QByteArray, xml);
+    QByteArray onePass = xml;
+    onePass.replace("<madrix_patch", "<!DOCTYPE madrix_patch><madrix_patch");
+    const PatchLoadResult split = parseMadrixPatch(xml, kFile, kFile);
+    const PatchLoadResult single = parseMadrixPatch(onePass, kFile, kFile);
+    QVERIFY(split.ok);
+    QVERIFY(single.ok);
+    QCOMPARE(warningTexts(split), warningTexts(single));
+    QVERIFY(warningTexts(split).join(u'|').contains(QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
+    const QVector<Torvoverse> &a = split.patch.groups.first().torvoverses;
+    const QVector<Torvoverse> &b = single.patch.groups.first().torvoverses;
+    QCOMPARE(a.size(), b.size());
+    for (qsizetype t = 0; t < a.size(); ++t) {
+        QCOMPARE(a.at(t).torvoverseName, b.at(t).torvoverseName);
+        QCOMPARE(a.at(t).fixtures.size(), b.at(t).fixtures.size());
+        for (qsizetype f = 0; f < a.at(t).fixtures.size(); ++f) {
+            QCOMPARE(a.at(t).fixtures.at(f).fixtureName, b.at(t).fixtures.at(f).fixtureName);
+            QCOMPARE(a.at(t).fixtures.at(f).leds.first().address,
+                     b.at(t).fixtures.at(f).leds.first().address);
+        }
+    }
+}
+
+void TestMadrixReader::loaderSniffsMadrix()
+{
+    QTemporaryDir dir;
+    const QByteArray xml = writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T"))));
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+    } files[] = {{"a.MPZ", xml}, {"b.xml", xml}, {"c.bin", gzipCompress(xml)}};
+    for (const auto &f : files) {
+        const QString path = dir.filePath(QString::fromLatin1(f.name));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(f.bytes);
+        file.close();
+        QCOMPARE(sniffPatchFormat(path), PatchFormat::Madrix);
+        const PatchLoadResult r = loadPatch(path);
+        QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
+        QCOMPARE(r.patch.sourceKind, SourceKind::Madrix);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestMadrixReader)
+#include "tst_madrixreader.moc"
