@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -121,11 +122,20 @@ void LedMonitorView::applyCamera()
 {
     // The camera decides what is shown; the graphics view's own scrolling is
     // pinned to it by a view scene rectangle just inside the visible area,
-    // which the view then centres (it never scrolls a scene that fits).
-    setTransform(QTransform::fromScale(m_camera.scale, m_camera.scale));
-    const QRectF visible = m_camera.visibleSceneRect();
-    const double inset = std::min(1.0 / m_camera.scale, std::min(visible.width(), visible.height()) / 4);
-    setSceneRect(visible.adjusted(inset, inset, -inset, -inset));
+    // which the view then centres (it never scrolls a scene that fits). The
+    // view scrolls by whole pixels, truncating toward zero, so the camera is
+    // snapped to a whole-pixel offset and the rectangle aims half a pixel
+    // beyond it: the view then shows exactly the camera's mapping.
+    const double scale = m_camera.scale;
+    const QPointF half = m_camera.viewCentre();
+    const double nx = std::round(m_camera.centre.x() * scale - half.x());
+    const double ny = std::round(m_camera.centre.y() * scale - half.y());
+    m_camera.centre = QPointF((nx + half.x()) / scale, (ny + half.y()) / scale);
+    const QPointF aim((nx + (nx < 0 ? -0.5 : 0.5) + half.x()) / scale, (ny + (ny < 0 ? -0.5 : 0.5) + half.y()) / scale);
+    const QSizeF inside(std::max(0, m_camera.viewport.width() - 2) / scale,
+                        std::max(0, m_camera.viewport.height() - 2) / scale);
+    setTransform(QTransform::fromScale(scale, scale));
+    setSceneRect(QRectF(aim - QPointF(inside.width() / 2, inside.height() / 2), inside));
 }
 
 void LedMonitorView::setHovered(int pixelNumber)
