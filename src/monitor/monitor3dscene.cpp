@@ -212,6 +212,8 @@ void Monitor3DScene::paintPointsDirect(QPainter &painter, double r, const QRectF
         y1 = std::max(y1, 0);
         x2 = std::min(x2, width);
         y2 = std::min(y2, height);
+        if (x1 >= x2 || y1 >= y2)
+            return; // off the picture (culling allows a dot's radius beyond the edges)
         for (int row = y1; row < y2; ++row)
             std::fill(bits + row * stride + x1, bits + row * stride + x2, colour | 0xFF000000);
     });

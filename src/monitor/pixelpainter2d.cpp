@@ -79,8 +79,10 @@ bool paintDirect(QPainter &painter, const PixelScene2D &scene, const QVector<QRg
         const int x2 = std::min(qRound(r.right() * sx + dx), width);
         const int y1 = std::max(qRound(r.top() * sy + dy), 0);
         const int y2 = std::min(qRound(r.bottom() * sy + dy), height);
+        if (x1 >= x2 || y1 >= y2)
+            continue; // outside the device, or thinner than the rounding keeps
         for (int row = y1; row < y2; ++row)
-            std::fill(bits + row * stride + x1, bits + row * stride + std::max(x1, x2), colour);
+            std::fill(bits + row * stride + x1, bits + row * stride + x2, colour);
     }
     if (polygons.isActive())
         polygons.end();

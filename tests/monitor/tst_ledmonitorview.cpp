@@ -41,7 +41,7 @@ private slots:
     void wheelZoomStopsAtTheLimits();
     void leftAndMiddleButtonsPan();
     void snapshotShowsTheLitPixel();
-    void emptyPatchDoesNothing();
+    void hiddenViewFitsWhenShown();
 
 private:
     LedMonitorView *m_view = nullptr;
@@ -143,16 +143,15 @@ void TestLedMonitorView::snapshotShowsTheLitPixel()
     QCOMPARE(m_view->snapshot().pixel(m_view->mapFromScene(QPointF(25, 5))) | 0xFF000000, 0xFF00FF00u);
 }
 
-void TestLedMonitorView::emptyPatchDoesNothing()
+void TestLedMonitorView::hiddenViewFitsWhenShown()
 {
-    m_view->setPatch(nullptr, nullptr);
-    const View2DCamera before = m_view->camera();
-    m_view->fitToView();
-    QCOMPARE(m_view->camera().scale, before.scale);
-    QSignalSpy spy(m_view, &LedMonitorView::cellHovered);
-    move(m_view->viewport(), QPoint(150, 100));
-    QCOMPARE(spy.count(), 0);
-    QCOMPARE(m_view->snapshot().pixel(150, 100) | 0xFF000000, qRgb(60, 60, 60));
+    LedMonitorView hidden;
+    hidden.setPatch(&m_patch, &m_layout);
+    hidden.fitToView(); // no size yet
+    hidden.resize(300, 200);
+    hidden.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&hidden));
+    QCOMPARE(hidden.camera().scale, m_view->camera().scale); // as fitted at this size
 }
 
 QTEST_MAIN(TestLedMonitorView)

@@ -78,12 +78,14 @@ void TestMonitorRender::layerAndPainterPathsAgree()
 {
     // Rectangles and a turned pixel overlapping them, at a fractional zoom and offset.
     PixelScene2D scene;
-    scene.setPixels({square(0, 0, 10), square(7, 3, 10), MonitorTestData::diamond(12, 8, 6), square(14, 9, 4)});
+    // The last pixel lies far outside the picture but inside the exposed area.
+    scene.setPixels({square(0, 0, 10), square(7, 3, 10), MonitorTestData::diamond(12, 8, 6), square(14, 9, 4),
+                     square(500, -300, 10)});
     View2DCamera camera;
     camera.viewport = QSize(97, 61);
     camera.scale = 3.3;
     camera.centre = QPointF(9.1, 7.7);
-    const QVector<QRgb> colours{kRed, kGreen, kOrange, 0xFF0000FF};
+    const QVector<QRgb> colours{kRed, kGreen, kOrange, 0xFF0000FF, kRed};
     QImage pictures[2];
     for (int direct = 0; direct < 2; ++direct) {
         pictures[direct] = QImage(camera.viewport, QImage::Format_ARGB32_Premultiplied);
@@ -91,7 +93,8 @@ void TestMonitorRender::layerAndPainterPathsAgree()
         QPainter painter(&pictures[direct]);
         painter.setTransform(camera.transform());
         QImage layer;
-        paintPixels2D(painter, scene, colours, camera.visibleSceneRect(), Qt::white, direct ? &layer : nullptr);
+        paintPixels2D(painter, scene, colours, camera.visibleSceneRect().adjusted(-1000, -1000, 1000, 1000), Qt::white,
+                      direct ? &layer : nullptr);
     }
     QCOMPARE(pictures[1], pictures[0]);
 }

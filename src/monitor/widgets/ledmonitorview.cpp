@@ -95,6 +95,9 @@ void LedMonitorView::setHighlight(int group, int torvoverse)
 
 void LedMonitorView::fitToView()
 {
+    // A hidden view (another tab, or a patch loaded before the window shows)
+    // has no size yet: fit when it first appears.
+    m_fitPending = !isVisible();
     m_camera.viewport = viewport()->size();
     if (m_camera.fit(m_canvas->scene2d().bounds()))
         applyCamera();
@@ -200,7 +203,16 @@ void LedMonitorView::resizeEvent(QResizeEvent *event)
 {
     QGraphicsView::resizeEvent(event);
     m_camera.viewport = viewport()->size();
+    if (m_fitPending && isVisible())
+        fitToView();
     applyCamera();
+}
+
+void LedMonitorView::showEvent(QShowEvent *event)
+{
+    QGraphicsView::showEvent(event);
+    if (m_fitPending)
+        fitToView();
 }
 
 void LedMonitorView::leaveEvent(QEvent *event)

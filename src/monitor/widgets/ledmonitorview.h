@@ -56,6 +56,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void applyCamera();
@@ -69,4 +70,5 @@ private:
     bool m_panning = false;
     QPoint m_lastPos;
     int m_hovered = -1;
+    bool m_fitPending = false;
 };
