@@ -7,9 +7,7 @@
 #include "cli/patchcommand.h"
 #include "cli/recordingcommand.h"
 
-
 #include <QCoreApplication>
-
 
 #include <functional>
 
