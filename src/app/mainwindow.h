@@ -9,6 +9,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <memory>
 
 class QCheckBox;
 class QGroupBox;
@@ -22,6 +23,10 @@ class Led3DView;
 class LedMonitorView;
 class PatchBar;
 class PlaceholderPanel;
+class PlaybackClock;
+namespace PacketLog {
+class PacketJournal;
+}
 
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
@@ -64,6 +69,9 @@ public slots:
     void onSaveSnapshot();
     void onFitToView();
     void onInspectedUniverseChanged(int portAddress);
+    void onFrameTick(qint64 frame);
+    void onPlaybackFinished();
+    void onPerformanceWarning(double measuredFps);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -118,6 +126,12 @@ private:
     QString m_statusText;
     int m_statusTimeoutMs = 0;
     QElapsedTimer m_statusShown;
+
+    // Paces playback on its own thread; owned through the QObject tree, stopped
+    // and joined in the destructor before anything else goes.
+    PlaybackClock *m_clock = nullptr;
+    std::unique_ptr<PacketLog::PacketJournal> m_journal;
+    qint64 m_currentFrame = 0;
 
     TPatch::PatchData m_patch;
     QString m_patchPath;

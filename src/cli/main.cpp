@@ -8,9 +8,7 @@
 #include "cli/rendercommand.h"
 #include "cli/recordingcommand.h"
 
-
 #include <QCoreApplication>
-
 
 #include <functional>
 
