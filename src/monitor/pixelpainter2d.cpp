@@ -3,6 +3,7 @@
 #include "monitor/brushcycler.h"
 
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPen>
 
@@ -40,7 +41,12 @@ bool paintDirect(QPainter &painter, const PixelScene2D &scene, const QVector<QRg
     const QTransform rest = painter.worldTransform().inverted(&invertible) * device;
     if (!invertible || rest.type() > QTransform::TxTranslate)
         return false;
-    const QRect deviceRect(0, 0, painter.device()->width(), painter.device()->height());
+    // The picture actually painted on, in device pixels: a widget is painted
+    // into its window's backing store, at an offset there.
+    const QPaintDevice *target = painter.paintEngine() ? painter.paintEngine()->paintDevice() : painter.device();
+    if (!target)
+        return false;
+    const QRect deviceRect(0, 0, target->width(), target->height());
     const QRect area = device.mapRect(exposed).toAlignedRect() & deviceRect;
     if (area.isEmpty())
         return true;

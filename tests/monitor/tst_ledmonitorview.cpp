@@ -41,7 +41,7 @@ private slots:
     void wheelZoomStopsAtTheLimits();
     void leftAndMiddleButtonsPan();
     void snapshotShowsTheLitPixel();
-    void hiddenViewFitsWhenShown();
+    void staysFittedUntilTouched();
 
 private:
     LedMonitorView *m_view = nullptr;
@@ -138,12 +138,17 @@ void TestLedMonitorView::snapshotShowsTheLitPixel()
     QCOMPARE(image.pixel(m_view->mapFromScene(QPointF(5, 5))) | 0xFF000000, 0xFFFF0000u);
     QCOMPARE(image.pixel(m_view->mapFromScene(QPointF(25, 5))) | 0xFF000000, 0xFF000000u);
     QCOMPARE(image.pixel(1, 1) | 0xFF000000, qRgb(60, 60, 60));
+    // Painted into a bigger picture at an offset, as into a window's backing store.
+    QImage window(m_view->viewport()->size() + QSize(40, 30), QImage::Format_RGB32);
+    m_view->viewport()->render(&window, QPoint(40, 30));
+    QCOMPARE(window.pixel(m_view->mapFromScene(QPointF(5, 5)) + QPoint(40, 30)) | 0xFF000000, 0xFFFF0000u);
+    QCOMPARE(window.pixel(m_view->mapFromScene(QPointF(29, 5)) + QPoint(40, 30)) | 0xFF000000, 0xFF000000u);
     m_colours[1] = 0xFF00FF00; // written in place, as the colour buffer does
     m_view->refresh();
     QCOMPARE(m_view->snapshot().pixel(m_view->mapFromScene(QPointF(25, 5))) | 0xFF000000, 0xFF00FF00u);
 }
 
-void TestLedMonitorView::hiddenViewFitsWhenShown()
+void TestLedMonitorView::staysFittedUntilTouched()
 {
     LedMonitorView hidden;
     hidden.setPatch(&m_patch, &m_layout);
@@ -152,6 +157,14 @@ void TestLedMonitorView::hiddenViewFitsWhenShown()
     hidden.show();
     QVERIFY(QTest::qWaitForWindowExposed(&hidden));
     QCOMPARE(hidden.camera().scale, m_view->camera().scale); // as fitted at this size
+    // Once the user zooms, a resize keeps the zoom.
+    QWheelEvent e(QPointF(10, 10), hidden.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120),
+                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(hidden.viewport(), &e);
+    const double zoomed = hidden.camera().scale;
+    hidden.resize(600, 400);
+    QTRY_COMPARE(hidden.viewport()->width(), 600);
+    QCOMPARE(hidden.camera().scale, zoomed);
 }
 
 QTEST_MAIN(TestLedMonitorView)

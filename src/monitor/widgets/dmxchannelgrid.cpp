@@ -44,6 +44,12 @@ QSize DmxChannelGrid::cellSize() const
     return QSize(fm.horizontalAdvance(QStringLiteral("888")) + 6, fm.height() + 4);
 }
 
+QSize DmxChannelGrid::minimumSizeHint() const
+{
+    const QSize cell = cellSize();
+    return QSize(kColumns * 16 + 1, cell.height() * kRows + 1);
+}
+
 QSize DmxChannelGrid::sizeHint() const
 {
     const QSize cell = cellSize();
@@ -52,9 +58,9 @@ QSize DmxChannelGrid::sizeHint() const
 
 QRect DmxChannelGrid::cellRect(int channel) const
 {
-    // Cells stretch to the widget's width so the grid fills the side column.
+    // Cells share the widget's width so all sixteen columns fit the side column.
     const QSize cell = cellSize();
-    const int width = std::max(cell.width(), (this->width() - 1) / kColumns);
+    const int width = std::max(1, (this->width() - 1) / kColumns);
     return QRect((channel % kColumns) * width, (channel / kColumns) * cell.height(), width, cell.height());
 }
 

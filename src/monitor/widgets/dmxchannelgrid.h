@@ -31,6 +31,7 @@ public:
     // The cell's fill: the role tint, or the base colour for an unpatched channel.
     QColor cellColour(int channel) const;
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 signals:
     void channelHovered(int channel); // -1 when the mouse leaves the cells

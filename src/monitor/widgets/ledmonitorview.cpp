@@ -95,9 +95,9 @@ void LedMonitorView::setHighlight(int group, int torvoverse)
 
 void LedMonitorView::fitToView()
 {
-    // A hidden view (another tab, or a patch loaded before the window shows)
-    // has no size yet: fit when it first appears.
-    m_fitPending = !isVisible();
+    // The picture stays fitted through resizes (a patch loaded before the
+    // window shows, a hidden tab, a maximised window) until the user zooms or pans.
+    m_keepFitted = true;
     m_camera.viewport = viewport()->size();
     if (m_camera.fit(m_canvas->scene2d().bounds()))
         applyCamera();
@@ -158,6 +158,7 @@ void LedMonitorView::wheelEvent(QWheelEvent *event)
         event->ignore();
         return;
     }
+    m_keepFitted = false;
     applyCamera();
     event->accept();
 }
@@ -179,6 +180,7 @@ void LedMonitorView::mouseMoveEvent(QMouseEvent *event)
     const QPoint pos = event->position().toPoint();
     if (m_panning) {
         m_camera.panBy(QPointF(pos - m_lastPos));
+        m_keepFitted = m_keepFitted && pos == m_lastPos;
         m_lastPos = pos;
         applyCamera();
         event->accept();
@@ -203,16 +205,9 @@ void LedMonitorView::resizeEvent(QResizeEvent *event)
 {
     QGraphicsView::resizeEvent(event);
     m_camera.viewport = viewport()->size();
-    if (m_fitPending && isVisible())
-        fitToView();
+    if (m_keepFitted)
+        m_camera.fit(m_canvas->scene2d().bounds());
     applyCamera();
-}
-
-void LedMonitorView::showEvent(QShowEvent *event)
-{
-    QGraphicsView::showEvent(event);
-    if (m_fitPending)
-        fitToView();
 }
 
 void LedMonitorView::leaveEvent(QEvent *event)

@@ -56,7 +56,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void leaveEvent(QEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     void applyCamera();
@@ -70,5 +69,5 @@ private:
     bool m_panning = false;
     QPoint m_lastPos;
     int m_hovered = -1;
-    bool m_fitPending = false;
+    bool m_keepFitted = false; // refit on resize until the user zooms or pans
 };
