@@ -67,8 +67,7 @@ qint64 readAll(const QStringList &paths)
     return total + (sum & 0);
 }
 
-template <typename Work>
-double bestOfMs(int runs, Work work)
+template <typename Work> double bestOfMs(int runs, Work work)
 {
     double best = 1e300;
     for (int i = 0; i < runs; ++i) {
@@ -120,7 +119,8 @@ int main(int argc, char *argv[])
     }
     std::printf("set: %d groups x %lld frames (%d min at %d fps), %d x 512-channel universe(s) per group; "
                 "generated in %.1f s\n",
-                groups, static_cast<long long>(frames), minutes, kFps, universes, generating.elapsed() / 1000.0);
+                groups, static_cast<long long>(frames), minutes, kFps, universes,
+                generating.elapsed() / 1000.0);
 
     qint64 bytes = 0;
     const double readMs = bestOfMs(3, [&] { bytes = readAll(paths); });

@@ -30,7 +30,8 @@ bool writeDemoGpsSet(const QString &folder, QString *error)
         for (const Torvoverse &t : group.torvoverses)
             spec.lengths.append(int(demoUniverseData(t, g, 0).size()));
         const GpsDataSource source = [&](qint64 frame, int slot, char *data, int length) {
-            const QByteArray bytes = demoUniverseData(group.torvoverses.at(slot), g, frame / double(kDemoGpsFps));
+            const QByteArray bytes =
+                demoUniverseData(group.torvoverses.at(slot), g, frame / double(kDemoGpsFps));
             std::memcpy(data, bytes.constData(), size_t(std::min<qsizetype>(length, bytes.size())));
         };
         const QString path = QDir(folder).filePath(QStringLiteral("demo_%1.tpx").arg(group.groupName));

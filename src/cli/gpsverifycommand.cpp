@@ -58,18 +58,20 @@ int runGpsVerifyCommand(const QStringList &arguments)
         "  checks      array of {verdict (\"PASS\", \"WARN\" or \"FAIL\"), title, detail}, in check order\n"
         "  failures    number of FAIL checks\n"
         "  warnings    number of WARN checks\n"
-        "  frameCount  frames every file can play (the shortest file; 0 when a file is missing or unreadable)\n"
+        "  frameCount  frames every file can play (the shortest file; 0 when a file is missing or "
+        "unreadable)\n"
         "  summary     the one-line summary\n"
         "  unreadable  \"N of M file(s) could not be read.\", or null when every file could be read\n"
         "  matched     object: group name -> file path, for every group that has a file\n"
         "  groups      number of groups in the patch\n"
         "Exit codes: 0 no check failed (warnings allowed), 1 a check failed (or the patch could not be\n"
         "loaded), 2 usage error."));
-    const QCommandLineOption patchOption(QStringLiteral("patch"), QStringLiteral("The patch the set was recorded from."),
+    const QCommandLineOption patchOption(QStringLiteral("patch"),
+                                         QStringLiteral("The patch the set was recorded from."),
                                          QStringLiteral("PATCH"));
-    const QCommandLineOption folderOption(QStringLiteral("folder"),
-                                          QStringLiteral("Match the groups to the <name>_<Group>.tpx files in DIR."),
-                                          QStringLiteral("DIR"));
+    const QCommandLineOption folderOption(
+        QStringLiteral("folder"), QStringLiteral("Match the groups to the <name>_<Group>.tpx files in DIR."),
+        QStringLiteral("DIR"));
     const QCommandLineOption setOption(QStringLiteral("set"),
                                        QStringLiteral("Give one group's file (repeat for every group)."),
                                        QStringLiteral("GROUP=FILE"));
@@ -85,7 +87,8 @@ int runGpsVerifyCommand(const QStringList &arguments)
         return ExitOk;
     if (!parser.isSet(patchOption) || parser.isSet(folderOption) == parser.isSet(setOption) ||
         !parser.positionalArguments().isEmpty()) {
-        printErr(QStringLiteral("talu-cli gps-verify: give --patch and either --folder DIR or --set GROUP=FILE ..."));
+        printErr(QStringLiteral(
+            "talu-cli gps-verify: give --patch and either --folder DIR or --set GROUP=FILE ..."));
         return ExitUsage;
     }
 
@@ -106,13 +109,15 @@ int runGpsVerifyCommand(const QStringList &arguments)
                 int group = -1;
                 QString file;
                 if (!splitAssignment(value, groups, &group, &file)) {
-                    printErr(QStringLiteral("talu-cli gps-verify: \"%1\" does not name a group of the patch as "
-                                            "GROUP=FILE (groups: %2).")
-                                 .arg(value, groups.join(QStringLiteral(", "))));
+                    printErr(
+                        QStringLiteral("talu-cli gps-verify: \"%1\" does not name a group of the patch as "
+                                       "GROUP=FILE (groups: %2).")
+                            .arg(value, groups.join(QStringLiteral(", "))));
                     return ExitUsage;
                 }
                 if (!paths.at(group).isEmpty()) {
-                    printErr(QStringLiteral("talu-cli gps-verify: group \"%1\" is given twice.").arg(groups.at(group)));
+                    printErr(QStringLiteral("talu-cli gps-verify: group \"%1\" is given twice.")
+                                 .arg(groups.at(group)));
                     return ExitUsage;
                 }
                 paths[group] = file;

@@ -6,8 +6,7 @@ using TPatch::PatchMessage;
 
 namespace {
 
-template <typename Render>
-QString renderDetail(const GpsCheck &check, Render render)
+template <typename Render> QString renderDetail(const GpsCheck &check, Render render)
 {
     if (check.detail.isEmpty())
         return {};
@@ -20,8 +19,8 @@ QString renderDetail(const GpsCheck &check, Render render)
         shown.append(render(check.items.at(i)));
     QString list = shown.join(lines ? QStringLiteral("\n") : QStringLiteral("; "));
     if (check.items.size() > limit)
-        list += QLatin1Char(' ') +
-                render(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "(+%1 more)"), {qint64(check.items.size() - limit)}));
+        list += QLatin1Char(' ') + render(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "(+%1 more)"),
+                                                       {qint64(check.items.size() - limit)}));
     PatchMessage whole = check.detail;
     whole.arguments.prepend(list);
     return render(whole);

@@ -14,10 +14,19 @@
 // the detail's own arguments then fill "%2" onwards.
 struct GpsCheck
 {
-    enum Verdict { Pass = 0, Warn = 1, Fail = 2 };
+    enum Verdict
+    {
+        Pass = 0,
+        Warn = 1,
+        Fail = 2
+    };
     // Inline lists are joined with "; " and cut after kMaxListedItems with
     // "(+N more)"; line lists put one item per line and are never cut.
-    enum class ListStyle { Inline, Lines };
+    enum class ListStyle
+    {
+        Inline,
+        Lines
+    };
 
     // Eight items keep a detail within three or four lines of the report
     // view, which is still readable at a glance; the count of the rest says

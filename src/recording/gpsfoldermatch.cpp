@@ -46,9 +46,10 @@ GpsFolderMatch GpsFolderMatch::match(const QString &folder, const QStringList &g
     const Session *best = nullptr;
     for (auto it = sessions.cbegin(); it != sessions.cend(); ++it) {
         const Session &s = it.value();
-        const bool better = !best || s.files.size() > best->files.size() ||
-                            (s.files.size() == best->files.size() &&
-                             (s.newest > best->newest || (s.newest == best->newest && it.key() < out.session)));
+        const bool better =
+            !best || s.files.size() > best->files.size() ||
+            (s.files.size() == best->files.size() &&
+             (s.newest > best->newest || (s.newest == best->newest && it.key() < out.session)));
         if (better) {
             best = &s;
             out.session = it.key();

@@ -27,6 +27,6 @@ struct GpsFolderMatch
     int matched = 0;   // groups that got a file
     QString session;   // the winning <name>, empty when nothing matched
 
-    // Groups with an empty name never match.
+    // Groups with an empty name never match. Reads the folder; any thread.
     static GpsFolderMatch match(const QString &folder, const QStringList &groupNames);
 };

@@ -23,8 +23,8 @@
 // Port-Addresses.
 struct GpsGroupExpectation
 {
-    QString name;                    // the group's caption ("Group 3" for a group without a name)
-    QVector<quint16> portAddresses;  // per record slot of a frame, as on the wire
+    QString name;                     // the group's caption ("Group 3" for a group without a name)
+    QVector<quint16> portAddresses;   // per record slot of a frame, as on the wire
     QVector<quint16> recordUniverses; // per record slot, as the controller writes a GPS record
     bool hasDrawablePixels = false;
 
@@ -40,11 +40,11 @@ struct GpsGroupExpectation
 struct GpsPatchExpectation
 {
     QVector<GpsGroupExpectation> groups;
-    QVector<quint16> universes;         // distinct Port-Addresses of every torvoverse, ascending
+    QVector<quint16> universes; // distinct Port-Addresses of every torvoverse, ascending
     int torvoverseCount = 0;
     QVector<quint16> drawableUniverses; // distinct Port-Addresses with at least one colour pixel, ascending
 
-    // Builds the expectation, laying the patch out once for the drawable universes.
+    // Builds the expectation, laying the patch out once for the drawable universes. Any thread.
     static GpsPatchExpectation fromPatch(const TPatch::PatchData &patch);
     // "Group %1" (1-based) for a group without a name, as the panel captions it.
     static QString groupCaption(const TPatch::PatchGroup &group, int index);

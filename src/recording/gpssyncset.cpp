@@ -55,9 +55,10 @@ int GpsSyncSet::autoFill(const QString &folder)
 const GpsVerification &GpsSyncSet::load(const TPatch::PatchData *patch)
 {
     unload();
-    m_verification = GpsVerifier::verify(patch, &m_members);
+    const GpsPatchExpectation expected =
+        patch ? GpsPatchExpectation::fromPatch(*patch) : GpsPatchExpectation{};
+    m_verification = GpsVerifier::verify(patch, expected, &m_members);
     if (patch) {
-        const GpsPatchExpectation expected = GpsPatchExpectation::fromPatch(*patch);
         for (const GpsGroupExpectation &g : expected.groups) {
             m_slotPortAddresses.push_back(g.portAddresses);
             m_slotRecordUniverses.push_back(g.recordUniverses);

@@ -74,7 +74,8 @@ public:
 private:
     std::vector<GpsSetMember> m_members;
     std::vector<QVector<quint16>> m_slotPortAddresses; // per group: the patch's Port-Address per slot
-    std::vector<QVector<quint16>> m_slotRecordUniverses; // per group: the controller's GPS universe field per slot
+    std::vector<QVector<quint16>>
+        m_slotRecordUniverses; // per group: the controller's GPS universe field per slot
     GpsVerification m_verification;
     bool m_loaded = false;
 };

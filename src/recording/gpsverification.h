@@ -11,10 +11,10 @@ struct GpsVerification
     QVector<GpsCheck> checks;
     int failures = 0;
     int warnings = 0;
-    qint64 frameCount = 0;                 // the shortest member's frame count (0 with an unreadable member)
-    TPatch::PatchMessage summary;          // "... structure and sync verified" and its siblings
+    qint64 frameCount = 0;                  // the shortest member's frame count (0 with an unreadable member)
+    TPatch::PatchMessage summary;           // "... structure and sync verified" and its siblings
     TPatch::PatchMessage unreadableSummary; // "%1 of %2 file(s) could not be read.", or empty
-    bool armable = false;                  // every member has at least one complete frame
+    bool armable = false;                   // every member has at least one complete frame
 
     void add(GpsCheck check)
     {

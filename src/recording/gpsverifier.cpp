@@ -4,7 +4,6 @@
 #include "recording/gpspatchexpectation.h"
 
 #include <QFileInfo>
-#include <QHash>
 #include <QMap>
 
 #include <algorithm>
@@ -76,7 +75,8 @@ public:
 private:
     bool anyGps() const
     {
-        return std::any_of(m_readable.cbegin(), m_readable.cend(), [](const Checked &c) { return c.member->gpsSync; });
+        return std::any_of(m_readable.cbegin(), m_readable.cend(),
+                           [](const Checked &c) { return c.member->gpsSync; });
     }
 
     const GpsPatchExpectation &m_expected;
@@ -91,28 +91,32 @@ void Run::gpsBlocks()
         if (!c.member->gpsSync)
             plain.append(PatchMessage("%1", {c.member->fileName()}));
     if (plain.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass,
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "All %1 file(s) carry the %2-byte GPS metadata block"),
-                                      {qint64(m_readable.size()), qint64(GpsMetadataBlock::kSize)})));
+        m_out->add(check(
+            GpsCheck::Pass,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "All %1 file(s) carry the %2-byte GPS metadata block"),
+                         {qint64(m_readable.size()), qint64(GpsMetadataBlock::kSize)})));
         return;
     }
     const qint64 count = plain.size();
-    m_out->add(check(
-        GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 file(s) are not GPS-Sync recordings"), {count}),
-        PatchMessage(QT_TRANSLATE_NOOP("TPatch",
-                                       "%1 - these files begin directly with an Art-Net packet, with no GPS metadata "
-                                       "block in front of it. They were recorded with GPS Sync Compatible Record OFF "
-                                       "and belong in the Standard Art-Net tab.")),
-        plain));
+    m_out->add(
+        check(GpsCheck::Fail,
+              PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 file(s) are not GPS-Sync recordings"), {count}),
+              PatchMessage(QT_TRANSLATE_NOOP(
+                  "TPatch", "%1 - these files begin directly with an Art-Net packet, with no GPS metadata "
+                            "block in front of it. They were recorded with GPS Sync Compatible Record OFF "
+                            "and belong in the Standard Art-Net tab.")),
+              plain));
 }
 
 void Run::universeCounts()
 {
     if (m_expected.drawableUniverses.isEmpty()) {
         m_out->add(check(
-            GpsCheck::Warn, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Patch has no drawable universes to compare against")),
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The recordings will still play, but nothing verifies that their "
-                                                     "universe layout matches this patch."))));
+            GpsCheck::Warn,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Patch has no drawable universes to compare against")),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch",
+                                           "The recordings will still play, but nothing verifies that their "
+                                           "universe layout matches this patch."))));
         return;
     }
     QVector<PatchMessage> wrong;
@@ -123,15 +127,17 @@ void Run::universeCounts()
                                       {c.group->name, qint64(has), qint64(c.group->recordCount())}));
     }
     if (wrong.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
-                                             "TPatch", "Universe count per frame matches the patch in every group"))));
+        m_out->add(check(GpsCheck::Pass,
+                         PatchMessage(QT_TRANSLATE_NOOP(
+                             "TPatch", "Universe count per frame matches the patch in every group"))));
         return;
     }
-    m_out->add(check(GpsCheck::Fail,
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Universe count per frame does not match the patch")),
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. The recording was made from a different patch, or a "
-                                                              "file is assigned to the wrong group.")),
-                     wrong));
+    m_out->add(check(
+        GpsCheck::Fail,
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Universe count per frame does not match the patch")),
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. The recording was made from a different patch, or a "
+                                                 "file is assigned to the wrong group.")),
+        wrong));
 }
 
 void Run::recordOrder()
@@ -145,24 +151,29 @@ void Run::recordOrder()
             if (c.group->slotAccepts(i, u))
                 continue;
             wrong.append(PatchMessage(
-                QT_TRANSLATE_NOOP("TPatch", "%1 (record %2 is universe %3, patch expects %4; expected order %5)"),
+                QT_TRANSLATE_NOOP("TPatch",
+                                  "%1 (record %2 is universe %3, patch expects %4; expected order %5)"),
                 {c.group->name, qint64(i + 1), TPatch::formatPortAddress(u),
-                 TPatch::formatPortAddress(c.group->portAddresses.at(i)), universeList(c.group->portAddresses)}));
+                 TPatch::formatPortAddress(c.group->portAddresses.at(i)),
+                 universeList(c.group->portAddresses)}));
             break;
         }
     }
     if (wrong.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
-                                             "TPatch", "Record order inside a frame matches the patch in every group"))));
+        m_out->add(check(GpsCheck::Pass,
+                         PatchMessage(QT_TRANSLATE_NOOP(
+                             "TPatch", "Record order inside a frame matches the patch in every group"))));
         return;
     }
     m_out->add(check(
-        GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Record order inside a frame does not match the patch")),
+        GpsCheck::Fail,
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Record order inside a frame does not match the patch")),
         PatchMessage(QT_TRANSLATE_NOOP(
-            "TPatch", "%1. Every pixel still lights up, but on the wrong torvoverse - this is the failure that looks "
-                      "correct at a glance. Note: MOX writes the universe field of a GPS record as "
-                      "(subNet<<8)|universe, while the wire uses the 15-bit PortAddress; the two only differ when a "
-                      "universe number is above 15.")),
+            "TPatch",
+            "%1. Every pixel still lights up, but on the wrong torvoverse - this is the failure that looks "
+            "correct at a glance. Note: MOX writes the universe field of a GPS record as "
+            "(subNet<<8)|universe, while the wire uses the 15-bit PortAddress; the two only differ when a "
+            "universe number is above 15.")),
         wrong));
 }
 
@@ -179,25 +190,29 @@ void Run::frameBytes()
         // value is ever shown wrapped.
         const QString header = QString::number(m.block.frameByteSize);
         if (m.block.frameByteSize != quint64(m.measuredFrameBytes))
-            wrong.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: header says %2 bytes per frame, the file measures %3"),
-                                      {m.fileName(), header, m.measuredFrameBytes}));
+            wrong.append(PatchMessage(
+                QT_TRANSLATE_NOOP("TPatch", "%1: header says %2 bytes per frame, the file measures %3"),
+                {m.fileName(), header, m.measuredFrameBytes}));
         quint64 sum = 0;
         const int used = std::min<int>(m.block.universeCount, GpsMetadataBlock::kMaxUniverses);
         for (int i = 0; i < used; ++i)
             sum += m.block.universeByteLength[size_t(i)];
         if (sum != m.block.frameByteSize)
-            wrong.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: universeByteLength sums to %2 but frameByteSize says %3"),
-                                      {m.fileName(), qint64(sum), header}));
+            wrong.append(PatchMessage(
+                QT_TRANSLATE_NOOP("TPatch", "%1: universeByteLength sums to %2 but frameByteSize says %3"),
+                {m.fileName(), qint64(sum), header}));
     }
     if (wrong.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
-                                             "TPatch", "Frame byte size in the header matches the packets on disk"))));
+        m_out->add(check(GpsCheck::Pass,
+                         PatchMessage(QT_TRANSLATE_NOOP(
+                             "TPatch", "Frame byte size in the header matches the packets on disk"))));
         return;
     }
-    m_out->add(check(GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Frame byte size in the header is wrong")),
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. A GPS device seeks by frameByteSize; a wrong value "
-                                                              "makes it land in the middle of a packet.")),
-                     wrong));
+    m_out->add(check(
+        GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Frame byte size in the header is wrong")),
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. A GPS device seeks by frameByteSize; a wrong value "
+                                                 "makes it land in the middle of a packet.")),
+        wrong));
 }
 
 void Run::wholeFrames()
@@ -208,19 +223,22 @@ void Run::wholeFrames()
         const qint64 usable = m.recording->parsedBytes();
         const qint64 expected = m.measuredFrameBytes * m.frameCount;
         if (usable != expected)
-            wrong.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: %2 usable byte(s), %3 expected for %4 frame(s)"),
-                                      {m.fileName(), usable, expected, m.frameCount}));
+            wrong.append(PatchMessage(
+                QT_TRANSLATE_NOOP("TPatch", "%1: %2 usable byte(s), %3 expected for %4 frame(s)"),
+                {m.fileName(), usable, expected, m.frameCount}));
     }
     if (wrong.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
-                                             "TPatch", "Every frame occupies exactly the same number of bytes"))));
+        m_out->add(
+            check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
+                                      "TPatch", "Every frame occupies exactly the same number of bytes"))));
         return;
     }
-    m_out->add(check(GpsCheck::Warn,
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Some files carry bytes that do not form a whole frame")),
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. The recording was cut short, or the universe lengths "
-                                                              "changed while it was running.")),
-                     wrong));
+    m_out->add(check(
+        GpsCheck::Warn,
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Some files carry bytes that do not form a whole frame")),
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. The recording was cut short, or the universe lengths "
+                                                 "changed while it was running.")),
+        wrong));
 }
 
 void Run::lengths()
@@ -231,20 +249,25 @@ void Run::lengths()
     for (const Checked &c : m_readable) {
         shortest = std::min(shortest, c.member->frameCount);
         longest = std::max(longest, c.member->frameCount);
-        counts.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: %2"), {c.member->fileName(), c.member->frameCount}));
+        counts.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: %2"),
+                                   {c.member->fileName(), c.member->frameCount}));
     }
     if (shortest == longest) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "All %1 recording(s) are exactly %2 frame(s) long"),
-                                                      {qint64(m_readable.size()), shortest})));
+        m_out->add(check(
+            GpsCheck::Pass,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "All %1 recording(s) are exactly %2 frame(s) long"),
+                         {qint64(m_readable.size()), shortest})));
         return;
     }
-    m_out->add(check(GpsCheck::Fail,
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Recordings differ in length by %1 frame(s)"), {longest - shortest}),
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. GPS devices stay locked by frame index, so the show "
-                                                              "falls apart as soon as the shortest file ends. Playback "
-                                                              "here stops at frame %2."),
-                                  {shortest}),
-                     counts));
+    m_out->add(check(
+        GpsCheck::Fail,
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Recordings differ in length by %1 frame(s)"),
+                     {longest - shortest}),
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. GPS devices stay locked by frame index, so the show "
+                                                 "falls apart as soon as the shortest file ends. Playback "
+                                                 "here stops at frame %2."),
+                     {shortest}),
+        counts));
 }
 
 void Run::headerFrameCounts()
@@ -259,15 +282,17 @@ void Run::headerFrameCounts()
                                       {m.fileName(), qint64(m.block.frameCount), m.frameCount}));
     }
     if (wrong.isEmpty()) {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
-                                             "TPatch", "Frame count in the header matches the packets on disk"))));
+        m_out->add(
+            check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP(
+                                      "TPatch", "Frame count in the header matches the packets on disk"))));
         return;
     }
-    m_out->add(check(GpsCheck::Warn, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Frame count in the header is out of date")),
-                     PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. MOX writes this number when the recording is "
-                                                              "stopped; a zero or stale value means the recording was "
-                                                              "never closed properly.")),
-                     wrong));
+    m_out->add(check(
+        GpsCheck::Warn, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Frame count in the header is out of date")),
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. MOX writes this number when the recording is "
+                                                 "stopped; a zero or stale value means the recording was "
+                                                 "never closed properly.")),
+        wrong));
 }
 
 void Run::timestamps()
@@ -307,27 +332,32 @@ void Run::timestamps()
         }
     }
     if (intraSpread == 0 && crossSpread == 0) {
-        m_out->add(check(GpsCheck::Pass,
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Timestamps are in lockstep across all %1 file(s), over all %2 frame(s)"),
-                                      {qint64(stamped), shortest})));
+        m_out->add(
+            check(GpsCheck::Pass,
+                  PatchMessage(
+                      QT_TRANSLATE_NOOP(
+                          "TPatch", "Timestamps are in lockstep across all %1 file(s), over all %2 frame(s)"),
+                      {qint64(stamped), shortest})));
     } else if (crossSpread < 1) {
         // Kept for completeness: a frame's cross-file spread includes each
         // file's own first and last stamp, so it is never below the spread
         // inside one file and whole-number stamps always reach the drift case.
-        m_out->add(check(GpsCheck::Warn,
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Timestamps vary by up to %1 s inside a single frame"),
-                                      {qint64(intraSpread)}),
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Worst in group %1. All records of one frame are "
-                                                                  "written in the same pass and should carry one value."),
-                                      {intraGroup})));
+        m_out->add(check(
+            GpsCheck::Warn,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Timestamps vary by up to %1 s inside a single frame"),
+                         {qint64(intraSpread)}),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Worst in group %1. All records of one frame are "
+                                                     "written in the same pass and should carry one value."),
+                         {intraGroup})));
     } else {
-        m_out->add(check(GpsCheck::Fail,
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Timestamps drift by up to %1 s between files"),
-                                      {qint64(crossSpread)}),
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "First seen at frame %1. MOX stamps every group with "
-                                                                  "the same value in a given frame, so a difference means "
-                                                                  "these files are not from one recording session."),
-                                      {crossFrame})));
+        m_out->add(check(
+            GpsCheck::Fail,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Timestamps drift by up to %1 s between files"),
+                         {qint64(crossSpread)}),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "First seen at frame %1. MOX stamps every group with "
+                                                     "the same value in a given frame, so a difference means "
+                                                     "these files are not from one recording session."),
+                         {crossFrame})));
     }
 }
 
@@ -348,13 +378,17 @@ void Run::coverageAndSharing()
     const qint64 covered = std::count_if(m_expected.universes.cbegin(), m_expected.universes.cend(),
                                          [&holders](quint16 u) { return holders.contains(u); });
     if (covered < m_expected.universes.size()) {
-        m_out->add(check(GpsCheck::Warn,
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The set carries %1 universe(s); the patch has %2"),
-                                      {covered, qint64(m_expected.universes.size())}),
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Pixels with no record behind them stay dark for the whole run."))));
+        m_out->add(check(
+            GpsCheck::Warn,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The set carries %1 universe(s); the patch has %2"),
+                         {covered, qint64(m_expected.universes.size())}),
+            PatchMessage(QT_TRANSLATE_NOOP(
+                "TPatch", "Pixels with no record behind them stay dark for the whole run."))));
     } else {
-        m_out->add(check(GpsCheck::Pass, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The set covers all %1 torvoverse(s) in the patch"),
-                                                      {qint64(m_expected.torvoverseCount)})));
+        m_out->add(check(
+            GpsCheck::Pass,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The set covers all %1 torvoverse(s) in the patch"),
+                         {qint64(m_expected.torvoverseCount)})));
     }
 
     QVector<PatchMessage> shared;
@@ -362,9 +396,11 @@ void Run::coverageAndSharing()
         if (it.value() > 1)
             shared.append(PatchMessage("%1", {TPatch::formatPortAddress(it.key())}));
     if (!shared.isEmpty())
-        m_out->add(check(GpsCheck::Warn, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Two or more groups share a universe")),
-                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Universe(s) %1. Two files write the same pixels and the "
-                                                                  "last one drawn wins.")),
+        m_out->add(check(GpsCheck::Warn,
+                         PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Two or more groups share a universe")),
+                         PatchMessage(QT_TRANSLATE_NOOP(
+                             "TPatch", "Universe(s) %1. Two files write the same pixels and the "
+                                       "last one drawn wins.")),
                          shared));
 }
 
@@ -372,15 +408,21 @@ void Run::coverageAndSharing()
 
 GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<GpsSetMember> *members)
 {
+    return verify(patch, patch ? GpsPatchExpectation::fromPatch(*patch) : GpsPatchExpectation{}, members);
+}
+
+GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, const GpsPatchExpectation &expected,
+                                    std::vector<GpsSetMember> *members)
+{
     GpsVerification out;
     if (!patch) {
-        out.add(check(GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "No patch loaded")),
-                      PatchMessage(QT_TRANSLATE_NOOP("TPatch", "A GPS-Sync set is defined by the patch: one recording "
-                                                               "per group. Load a .tpatch first."))));
+        out.add(check(
+            GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "No patch loaded")),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "A GPS-Sync set is defined by the patch: one recording "
+                                                     "per group. Load a .tpatch first."))));
         out.summary = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "No patch loaded."));
         return out;
     }
-    const GpsPatchExpectation expected = GpsPatchExpectation::fromPatch(*patch);
     const qint64 groupCount = expected.groups.size();
     members->resize(size_t(groupCount));
     for (int g = 0; g < groupCount; ++g)
@@ -393,11 +435,13 @@ GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<
             missing.append(PatchMessage("%1", {m.groupName}));
     if (!missing.isEmpty()) {
         const qint64 count = missing.size();
-        out.add(check(GpsCheck::Fail,
-                      PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 of %2 group(s) have no recording"), {count, groupCount}),
-                      PatchMessage(QT_TRANSLATE_NOOP("TPatch", "A GPS-Sync show is only complete when every group has "
-                                                               "its own file. Missing: %1")),
-                      missing));
+        out.add(check(
+            GpsCheck::Fail,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 of %2 group(s) have no recording"),
+                         {count, groupCount}),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "A GPS-Sync show is only complete when every group has "
+                                                     "its own file. Missing: %1")),
+            missing));
         out.summary = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 recording(s) still missing."), {count});
         return out;
     }
@@ -406,9 +450,10 @@ GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<
     QVector<PatchMessage> supplied;
     for (const GpsSetMember &m : *members)
         supplied.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 = %2"), {m.groupName, m.fileName()}));
-    GpsCheck suppliedCheck = check(GpsCheck::Pass,
-                                   PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 group(s), %1 recording(s) supplied"), {groupCount}),
-                                   PatchMessage("%1"), supplied);
+    GpsCheck suppliedCheck = check(
+        GpsCheck::Pass,
+        PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 group(s), %1 recording(s) supplied"), {groupCount}),
+        PatchMessage("%1"), supplied);
     suppliedCheck.listStyle = GpsCheck::ListStyle::Lines;
     out.add(suppliedCheck);
 
@@ -424,13 +469,16 @@ GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<
     QVector<PatchMessage> reused;
     for (const QString &id : fileOrder)
         if (groupsByFile.value(id).size() > 1)
-            reused.append(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 (%2)"),
-                                       {QFileInfo(id).fileName(), groupsByFile.value(id).join(QStringLiteral(", "))}));
+            reused.append(
+                PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 (%2)"),
+                             {QFileInfo(id).fileName(), groupsByFile.value(id).join(QStringLiteral(", "))}));
     if (!reused.isEmpty())
-        out.add(check(GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The same file is assigned to more than one group")),
-                      PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. Each group has its own recording; reusing one file "
-                                                               "makes two groups play the same animation.")),
-                      reused));
+        out.add(check(
+            GpsCheck::Fail,
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The same file is assigned to more than one group")),
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1. Each group has its own recording; reusing one file "
+                                                     "makes two groups play the same animation.")),
+            reused));
 
     // 5. Load every file; each one that cannot be read is a finding of its own.
     std::vector<Checked> readable;
@@ -443,12 +491,13 @@ GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<
             continue;
         }
         ++unreadable;
-        out.add(check(GpsCheck::Fail, PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: file cannot be read"), {m.fileName()}),
+        out.add(check(GpsCheck::Fail,
+                      PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1: file cannot be read"), {m.fileName()}),
                       m.loadResult.error));
     }
     if (unreadable)
-        out.unreadableSummary =
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 of %2 file(s) could not be read."), {unreadable, groupCount});
+        out.unreadableSummary = PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "%1 of %2 file(s) could not be read."), {unreadable, groupCount});
 
     if (!readable.empty()) {
         Run run(expected, readable, &out);
@@ -471,11 +520,13 @@ GpsVerification GpsVerifier::verify(const TPatch::PatchData *patch, std::vector<
     if (!out.armable)
         out.summary = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "The set holds no complete frame."));
     else if (out.failures || out.warnings)
-        out.summary = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 group(s) - %2 frames - %3 failure(s), %4 warning(s); "
-                                                               "playback is enabled so you can see them"),
-                                   {groupCount, out.frameCount, qint64(out.failures), qint64(out.warnings)});
+        out.summary = PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "%1 group(s) - %2 frames - %3 failure(s), %4 warning(s); "
+                                        "playback is enabled so you can see them"),
+            {groupCount, out.frameCount, qint64(out.failures), qint64(out.warnings)});
     else
-        out.summary = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 group(s) - %2 frames - structure and sync verified"),
-                                   {groupCount, out.frameCount});
+        out.summary =
+            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 group(s) - %2 frames - structure and sync verified"),
+                         {groupCount, out.frameCount});
     return out;
 }

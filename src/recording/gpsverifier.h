@@ -1,6 +1,7 @@
 #pragma once
 
 #include "patch/patchdata.h"
+#include "recording/gpspatchexpectation.h"
 #include "recording/gpssetmember.h"
 #include "recording/gpsverification.h"
 
@@ -27,4 +28,7 @@ public:
     // set (empty for a group without a file); the verifier names them after
     // the groups, loads them and checks them.
     static GpsVerification verify(const TPatch::PatchData *patch, std::vector<GpsSetMember> *members);
+    // The same with the patch's expectation already built (it lays the patch out).
+    static GpsVerification verify(const TPatch::PatchData *patch, const GpsPatchExpectation &expected,
+                                  std::vector<GpsSetMember> *members);
 };

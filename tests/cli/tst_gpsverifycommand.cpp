@@ -26,7 +26,10 @@ class TestGpsVerifyCommand : public QObject
         return p.exitCode();
     }
 
-    static QString example(const QString &name) { return QStringLiteral(TALU_SOURCE_DIR "/examples/") + name; }
+    static QString example(const QString &name)
+    {
+        return QStringLiteral(TALU_SOURCE_DIR "/examples/") + name;
+    }
 
     QString generated() const { return m_dir.filePath(QStringLiteral("gps")); }
 
@@ -46,8 +49,9 @@ private slots:
     {
         QFETCH(QString, folder);
         QByteArray json;
-        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"), example(QStringLiteral("demo.tpatch")),
-                      QStringLiteral("--folder"), folder, QStringLiteral("--json")},
+        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"),
+                      example(QStringLiteral("demo.tpatch")), QStringLiteral("--folder"), folder,
+                      QStringLiteral("--json")},
                      &json),
                  0);
         const QJsonObject o = QJsonDocument::fromJson(json).object();
@@ -82,31 +86,36 @@ private slots:
         // Facade's file given to Stage too, Floor's file missing.
         const QString facade = QDir(generated()).filePath(QStringLiteral("demo_Facade.tpx"));
         QByteArray out;
-        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"), example(QStringLiteral("demo.tpatch")),
-                      QStringLiteral("--set"), QStringLiteral("Facade=") + facade, QStringLiteral("--set"),
+        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"),
+                      example(QStringLiteral("demo.tpatch")), QStringLiteral("--set"),
+                      QStringLiteral("Facade=") + facade, QStringLiteral("--set"),
                       QStringLiteral("Stage=") + facade},
                      &out),
                  1);
         const QStringList lines = QString::fromUtf8(out).split(u'\n');
         QCOMPARE(lines.value(0), QStringLiteral("FAIL  2 of 4 group(s) have no recording"));
         QCOMPARE(lines.value(1),
-                 QStringLiteral("      A GPS-Sync show is only complete when every group has its own file. Missing: "
-                                "Canopy; Floor"));
+                 QStringLiteral(
+                     "      A GPS-Sync show is only complete when every group has its own file. Missing: "
+                     "Canopy; Floor"));
         QCOMPARE(lines.value(2), QStringLiteral("2 recording(s) still missing."));
 
         const QString canopy = QDir(generated()).filePath(QStringLiteral("demo_Canopy.tpx"));
         const QString floor = QDir(generated()).filePath(QStringLiteral("demo_Floor.tpx"));
-        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"), example(QStringLiteral("demo.tpatch")),
-                      QStringLiteral("--set"), QStringLiteral("Facade=") + facade, QStringLiteral("--set"),
-                      QStringLiteral("Stage=") + facade, QStringLiteral("--set"), QStringLiteral("Canopy=") + canopy,
-                      QStringLiteral("--set"), QStringLiteral("Floor=") + floor},
+        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"),
+                      example(QStringLiteral("demo.tpatch")), QStringLiteral("--set"),
+                      QStringLiteral("Facade=") + facade, QStringLiteral("--set"),
+                      QStringLiteral("Stage=") + facade, QStringLiteral("--set"),
+                      QStringLiteral("Canopy=") + canopy, QStringLiteral("--set"),
+                      QStringLiteral("Floor=") + floor},
                      &out),
                  1);
         const QString text = QString::fromUtf8(out);
         QVERIFY2(text.contains(QStringLiteral("\nFAIL  The same file is assigned to more than one group\n"
                                               "      demo_Facade.tpx (Facade, Stage). Each group")),
                  qPrintable(text));
-        QVERIFY(text.startsWith(QStringLiteral("PASS  4 group(s), 4 recording(s) supplied\n      Facade = demo_Facade.tpx\n")));
+        QVERIFY(text.startsWith(
+            QStringLiteral("PASS  4 group(s), 4 recording(s) supplied\n      Facade = demo_Facade.tpx\n")));
         QVERIFY(text.endsWith(QStringLiteral("playback is enabled so you can see them\n")));
     }
 
@@ -116,9 +125,11 @@ private slots:
         const QString patch = example(QStringLiteral("demo.tpatch"));
         QTest::newRow("no patch") << QStringList{"--folder", "."};
         QTest::newRow("no files") << QStringList{"--patch", patch};
-        QTest::newRow("folder and set") << QStringList{"--patch", patch, "--folder", ".", "--set", "Stage=a.tpx"};
+        QTest::newRow("folder and set")
+            << QStringList{"--patch", patch, "--folder", ".", "--set", "Stage=a.tpx"};
         QTest::newRow("unknown group") << QStringList{"--patch", patch, "--set", "Balcony=a.tpx"};
-        QTest::newRow("group twice") << QStringList{"--patch", patch, "--set", "Stage=a.tpx", "--set", "Stage=b.tpx"};
+        QTest::newRow("group twice") << QStringList{"--patch",     patch,   "--set",
+                                                    "Stage=a.tpx", "--set", "Stage=b.tpx"};
     }
     void usageErrors()
     {
@@ -129,8 +140,9 @@ private slots:
     void unloadablePatchIsACheck()
     {
         QByteArray json;
-        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"), m_dir.filePath(QStringLiteral("none.tpatch")),
-                      QStringLiteral("--folder"), generated(), QStringLiteral("--json")},
+        QCOMPARE(run({QStringLiteral("gps-verify"), QStringLiteral("--patch"),
+                      m_dir.filePath(QStringLiteral("none.tpatch")), QStringLiteral("--folder"), generated(),
+                      QStringLiteral("--json")},
                      &json),
                  1);
         const QJsonObject o = QJsonDocument::fromJson(json).object();

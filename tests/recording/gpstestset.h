@@ -37,7 +37,8 @@ inline TPatch::Torvoverse torvoverse(int universe, int subNet = 0, bool drawable
 inline TPatch::PatchData patch(bool drawable = true)
 {
     TPatch::PatchData p;
-    const QStringList names{QStringLiteral("Front"), QStringLiteral("Back_Stage Left"), QStringLiteral("Roof")};
+    const QStringList names{QStringLiteral("Front"), QStringLiteral("Back_Stage Left"),
+                            QStringLiteral("Roof")};
     const QVector<QVector<int>> universes{{1, 2}, {3}, {4, 5, 6}};
     for (int g = 0; g < names.size(); ++g) {
         TPatch::PatchGroup group;

@@ -19,13 +19,15 @@ private slots:
     void timestampDifferenceAtFrame();
     void autoFillKeepsUnmatchedPathsAndPathChangesUnload();
     void notArmedWithoutEveryFile();
+    void aSetOfOne();
 
 private:
     QString writeGroup(int group, const QByteArray &bytes, const QString &session = QStringLiteral("show"))
     {
-        return write(QDir(m_dir->path()).filePath(
-                         QStringLiteral("%1_%2.tpx").arg(session, m_patch.groups.at(group).groupName)),
-                     bytes);
+        return write(
+            QDir(m_dir->path())
+                .filePath(QStringLiteral("%1_%2.tpx").arg(session, m_patch.groups.at(group).groupName)),
+            bytes);
     }
     QStringList writeAll()
     {
@@ -145,6 +147,19 @@ void TestGpsSyncSet::notArmedWithoutEveryFile()
     set.load(&m_patch);
     QVERIFY(!set.isLoaded());
     QVERIFY(set.frame(0).isEmpty());
+}
+
+void TestGpsSyncSet::aSetOfOne()
+{
+    m_patch.groups.remove(1, 2);
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths({writeGroup(0, fileBytes(m_patch, 0))});
+    const GpsVerification &v = set.load(&m_patch);
+    QCOMPARE(v.failures + v.warnings, 0);
+    QCOMPARE(v.summary.untranslatedText(),
+             QStringLiteral("1 group(s) - 20 frames - structure and sync verified"));
+    QCOMPARE(set.frame(19).size(), 2);
 }
 
 QTEST_GUILESS_MAIN(TestGpsSyncSet)

@@ -10,7 +10,8 @@ using namespace GpsTest;
 
 namespace {
 
-enum Fault {
+enum Fault
+{
     Clean,
     NoPatch,
     MissingFile,
@@ -25,6 +26,7 @@ enum Fault {
     ControllerUniverseField,
     WrongFrameByteSize,
     WrongUniverseByteLength,
+    AbsurdBlock,
     TrailingRecord,
     ThreeFramesShort,
     StaleHeaderCount,
@@ -46,7 +48,8 @@ Built build(Fault fault, const QString &dir)
     Built b;
     if (fault == NoDrawable)
         b.patch = GpsTest::patch(false);
-    if (fault == ControllerUniverseField) // Roof's first torvoverse: Sub-Net 1, universe 4 → Port-Address 0x14
+    if (fault ==
+        ControllerUniverseField) // Roof's first torvoverse: Sub-Net 1, universe 4 → Port-Address 0x14
         b.patch.groups[2].torvoverses[0].subNet = 1;
     QVector<QByteArray> files;
     for (int g = 0; g < b.patch.groups.size(); ++g) {
@@ -78,6 +81,12 @@ Built build(Fault fault, const QString &dir)
     case WrongUniverseByteLength:
         qToLittleEndian<quint16>(kRecordSize + 2, roof.data() + 13 + 2); // entry 1; frameByteSize stays right
         break;
+    case AbsurdBlock: // every field at its largest; the reader falls back to the detected period
+        qToLittleEndian<quint64>(~quint64(0), roof.data());
+        qToLittleEndian<quint32>(~quint32(0), roof.data() + 8);
+        roof[12] = char(0xFF);
+        roof.replace(13, 128, QByteArray(128, char(0xFF)));
+        break;
     case TrailingRecord:
         roof += roof.mid(recordOffset(0), kRecordSize);
         break;
@@ -96,8 +105,9 @@ Built build(Fault fault, const QString &dir)
         break;
     }
     for (int g = 0; g < files.size(); ++g)
-        b.paths.append(write(QDir(dir).filePath(QStringLiteral("show_%1.tpx").arg(b.patch.groups.at(g).groupName)),
-                             files.at(g)));
+        b.paths.append(
+            write(QDir(dir).filePath(QStringLiteral("show_%1.tpx").arg(b.patch.groups.at(g).groupName)),
+                  files.at(g)));
     switch (fault) {
     case MissingFile:
         b.paths[2].clear();
@@ -166,21 +176,24 @@ void TestGpsVerifier::cleanSetPassesEveryCheck()
         QCOMPARE(c.verdict, GpsCheck::Pass);
         titles.append(c.title.untranslatedText());
     }
-    QCOMPARE(titles, QStringList({
-                         QStringLiteral("3 group(s), 3 recording(s) supplied"),
-                         QStringLiteral("All 3 file(s) carry the 143-byte GPS metadata block"),
-                         QStringLiteral("Universe count per frame matches the patch in every group"),
-                         QStringLiteral("Record order inside a frame matches the patch in every group"),
-                         QStringLiteral("Frame byte size in the header matches the packets on disk"),
-                         QStringLiteral("Every frame occupies exactly the same number of bytes"),
-                         QStringLiteral("All 3 recording(s) are exactly 20 frame(s) long"),
-                         QStringLiteral("Frame count in the header matches the packets on disk"),
-                         QStringLiteral("Timestamps are in lockstep across all 3 file(s), over all 20 frame(s)"),
-                         QStringLiteral("The set covers all 6 torvoverse(s) in the patch"),
-                     }));
+    QCOMPARE(titles,
+             QStringList({
+                 QStringLiteral("3 group(s), 3 recording(s) supplied"),
+                 QStringLiteral("All 3 file(s) carry the 143-byte GPS metadata block"),
+                 QStringLiteral("Universe count per frame matches the patch in every group"),
+                 QStringLiteral("Record order inside a frame matches the patch in every group"),
+                 QStringLiteral("Frame byte size in the header matches the packets on disk"),
+                 QStringLiteral("Every frame occupies exactly the same number of bytes"),
+                 QStringLiteral("All 3 recording(s) are exactly 20 frame(s) long"),
+                 QStringLiteral("Frame count in the header matches the packets on disk"),
+                 QStringLiteral("Timestamps are in lockstep across all 3 file(s), over all 20 frame(s)"),
+                 QStringLiteral("The set covers all 6 torvoverse(s) in the patch"),
+             }));
     QCOMPARE(v.checks.first().untranslatedDetailText(),
-             QStringLiteral("Front = show_Front.tpx\nBack_Stage Left = show_Back_Stage Left.tpx\nRoof = show_Roof.tpx"));
-    QCOMPARE(v.summary.untranslatedText(), QStringLiteral("3 group(s) - 20 frames - structure and sync verified"));
+             QStringLiteral(
+                 "Front = show_Front.tpx\nBack_Stage Left = show_Back_Stage Left.tpx\nRoof = show_Roof.tpx"));
+    QCOMPARE(v.summary.untranslatedText(),
+             QStringLiteral("3 group(s) - 20 frames - structure and sync verified"));
     QVERIFY(set.isLoaded());
     QCOMPARE(set.frameCount(), 20);
 }
@@ -193,15 +206,16 @@ void TestGpsVerifier::findings_data()
     QTest::addColumn<QString>("detail"); // a part of the detail
     QTest::addColumn<QString>("summary");
 
-    const QString armedWithFailure =
-        QStringLiteral("3 group(s) - 20 frames - 1 failure(s), 0 warning(s); playback is enabled so you can see them");
-    const QString armedWithWarning =
-        QStringLiteral("3 group(s) - 20 frames - 0 failure(s), 1 warning(s); playback is enabled so you can see them");
+    const QString armedWithFailure = QStringLiteral(
+        "3 group(s) - 20 frames - 1 failure(s), 0 warning(s); playback is enabled so you can see them");
+    const QString armedWithWarning = QStringLiteral(
+        "3 group(s) - 20 frames - 0 failure(s), 1 warning(s); playback is enabled so you can see them");
     const QString noFrame = QStringLiteral("The set holds no complete frame.");
 
-    QTest::newRow("no patch") << int(NoPatch) << "No patch loaded" << 2
-                              << "A GPS-Sync set is defined by the patch: one recording per group. Load a .tpatch first."
-                              << "No patch loaded.";
+    QTest::newRow("no patch")
+        << int(NoPatch) << "No patch loaded" << 2
+        << "A GPS-Sync set is defined by the patch: one recording per group. Load a .tpatch first."
+        << "No patch loaded.";
     QTest::newRow("a group without a file")
         << int(MissingFile) << "1 of 3 group(s) have no recording" << 2
         << "A GPS-Sync show is only complete when every group has its own file. Missing: Roof"
@@ -211,44 +225,57 @@ void TestGpsVerifier::findings_data()
         << "show_Front.tpx (Front, Back_Stage Left). Each group has its own recording"
         // Front's file also fails Back's universe count and order, and shares its universes.
         << "3 group(s) - 20 frames - 3 failure(s), 2 warning(s); playback is enabled so you can see them";
-    QTest::newRow("file not on disk") << int(NotOnDisk) << "gone.tpx: file cannot be read" << 2
-                                      << "Could not open \"gone.tpx\"" << noFrame;
+    QTest::newRow("file not on disk")
+        << int(NotOnDisk) << "gone.tpx: file cannot be read" << 2 << "Could not open \"gone.tpx\"" << noFrame;
     QTest::newRow("another format") << int(Garbage) << "show_Roof.tpx: file cannot be read" << 2
                                     << "does not start with an Art-Net or KEL DMX record" << noFrame;
     QTest::newRow("a folder") << int(Folder) << "folder.tpx: file cannot be read" << 2
                               << "\"folder.tpx\" is a folder, not a recording." << noFrame;
-    QTest::newRow("no GPS block")
-        << int(NoGpsBlock) << "1 file(s) are not GPS-Sync recordings" << 2
-        << "show_Roof.tpx - these files begin directly with an Art-Net packet" << armedWithFailure;
+    QTest::newRow("no GPS block") << int(NoGpsBlock) << "1 file(s) are not GPS-Sync recordings" << 2
+                                  << "show_Roof.tpx - these files begin directly with an Art-Net packet"
+                                  << armedWithFailure;
     QTest::newRow("extra universe")
         << int(ExtraUniverse) << "Universe count per frame does not match the patch" << 2
-        << "Front: file has 3, patch expects 2. The recording was made from a different patch" << armedWithFailure;
+        << "Front: file has 3, patch expects 2. The recording was made from a different patch"
+        << armedWithFailure;
     QTest::newRow("nothing drawable")
         << int(NoDrawable) << "Patch has no drawable universes to compare against" << 1
         << "nothing verifies that their universe layout matches this patch." << armedWithWarning;
-    QTest::newRow("swapped order")
-        << int(SwappedOrder) << "Record order inside a frame does not match the patch" << 2
-        << "Front (record 1 is universe 0x0002, patch expects 0x0001; expected order 0x0001, 0x0002). Every pixel"
-        << armedWithFailure;
+    QTest::newRow("swapped order") << int(SwappedOrder)
+                                   << "Record order inside a frame does not match the patch" << 2
+                                   << "Front (record 1 is universe 0x0002, patch expects 0x0001; expected "
+                                      "order 0x0001, 0x0002). Every pixel"
+                                   << armedWithFailure;
     QTest::newRow("controller's universe field")
-        << int(ControllerUniverseField) << "Record order inside a frame matches the patch in every group" << 0 << ""
+        << int(ControllerUniverseField) << "Record order inside a frame matches the patch in every group" << 0
+        << ""
         << "3 group(s) - 20 frames - structure and sync verified";
     QTest::newRow("frameByteSize off by one")
         << int(WrongFrameByteSize) << "Frame byte size in the header is wrong" << 2
-        << "show_Roof.tpx: header says 97 bytes per frame, the file measures 96; show_Roof.tpx: universeByteLength "
+        << "show_Roof.tpx: header says 97 bytes per frame, the file measures 96; show_Roof.tpx: "
+           "universeByteLength "
            "sums to 96 but frameByteSize says 97. A GPS device seeks"
         << armedWithFailure;
     QTest::newRow("one universeByteLength entry")
         << int(WrongUniverseByteLength) << "Frame byte size in the header is wrong" << 2
-        << "show_Roof.tpx: universeByteLength sums to 98 but frameByteSize says 96. A GPS" << armedWithFailure;
+        << "show_Roof.tpx: universeByteLength sums to 98 but frameByteSize says 96. A GPS"
+        << armedWithFailure;
+    QTest::newRow("absurd block")
+        << int(AbsurdBlock) << "Frame byte size in the header is wrong" << 2
+        << "show_Roof.tpx: header says 18446744073709551615 bytes per frame, the file measures 96; "
+           "show_Roof.tpx: "
+           "universeByteLength sums to 4194240 but frameByteSize says 18446744073709551615."
+        << "3 group(s) - 20 frames - 1 failure(s), 1 warning(s); playback is enabled so you can see them";
     QTest::newRow("a trailing record")
         << int(TrailingRecord) << "Some files carry bytes that do not form a whole frame" << 1
         << "show_Roof.tpx: 1952 usable byte(s), 1920 expected for 20 frame(s). The recording was cut short"
         << armedWithWarning;
     QTest::newRow("three frames short")
         << int(ThreeFramesShort) << "Recordings differ in length by 3 frame(s)" << 2
-        << "show_Front.tpx: 20; show_Back_Stage Left.tpx: 17; show_Roof.tpx: 20. GPS devices stay locked by frame "
-           "index, so the show falls apart as soon as the shortest file ends. Playback here stops at frame 17."
+        << "show_Front.tpx: 20; show_Back_Stage Left.tpx: 17; show_Roof.tpx: 20. GPS devices stay locked by "
+           "frame "
+           "index, so the show falls apart as soon as the shortest file ends. Playback here stops at frame "
+           "17."
         << "3 group(s) - 17 frames - 1 failure(s), 0 warning(s); playback is enabled so you can see them";
     QTest::newRow("stale header count")
         << int(StaleHeaderCount) << "Frame count in the header is out of date" << 1
@@ -259,8 +286,8 @@ void TestGpsVerifier::findings_data()
     // Equal across files but one apart inside a frame of one file: the spread
     // across files includes that file's own two stamps, so it is a drift too.
     QTest::newRow("one apart inside a frame")
-        << int(OneApartInsideFrame) << "Timestamps drift by up to 1 s between files" << 2 << "First seen at frame 5."
-        << armedWithFailure;
+        << int(OneApartInsideFrame) << "Timestamps drift by up to 1 s between files" << 2
+        << "First seen at frame 5." << armedWithFailure;
     QTest::newRow("a universe not covered")
         << int(UncoveredUniverse) << "The set carries 5 universe(s); the patch has 6" << 1
         << "Pixels with no record behind them stay dark for the whole run."
