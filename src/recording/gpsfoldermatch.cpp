@@ -24,10 +24,14 @@ GpsFolderMatch GpsFolderMatch::match(const QString &folder, const QStringList &g
         out.paths.append(QString());
 
     QHash<QString, Session> sessions;
-    const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files | QDir::Readable, QDir::Name);
+    // Unreadable files stay in, so that the verifier says what is wrong with
+    // them instead of a group going missing.
+    const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &info : entries) {
         const QString name = info.fileName();
-        if (!name.endsWith(kSuffix, Qt::CaseInsensitive))
+        // A stick that has been in a Mac carries a "._show_Front.tpx" beside
+        // every file; they count as hidden here but not on Windows, so they are named.
+        if (!name.endsWith(kSuffix, Qt::CaseInsensitive) || name.startsWith(QLatin1StringView("._")))
             continue;
         const QString base = name.left(name.size() - kSuffix.size());
         for (int g = 0; g < groupNames.size(); ++g) {

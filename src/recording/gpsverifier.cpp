@@ -150,6 +150,8 @@ void Run::recordOrder()
             const quint16 u = frame.at(i).universe;
             if (c.group->slotAccepts(i, u))
                 continue;
+            // Records are counted from 1 here, as a technician counts them
+            // down a list; frames elsewhere in the report are indices from 0.
             wrong.append(PatchMessage(
                 QT_TRANSLATE_NOOP("TPatch",
                                   "%1 (record %2 is universe %3, patch expects %4; expected order %5)"),

@@ -49,6 +49,9 @@ void TestGpsFolderMatch::match_data()
         << QStringList{"show_Front.tpatch", "show_Front.tpx.bak", "show_Front.tpx/", "Front.tpx",
                        "show_Roof.tpx"}
         << groups << QStringList{"", "", "show_Roof.tpx"} << "show";
+    QTest::newRow("resource forks a Mac leaves on a stick")
+        << QStringList{"._show_Front.tpx", "show_Front.tpx"} << groups << QStringList{"show_Front.tpx", "", ""}
+        << "show";
     QTest::newRow("nothing matches") << QStringList{"notes.txt", "show_Side.tpx"} << groups
                                      << QStringList{"", "", ""} << "";
     QTest::newRow("a group without a name")
