@@ -3,6 +3,7 @@
 #include "recording/gpscheck.h"
 #include "recording/gpssyncset.h"
 
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -159,6 +160,7 @@ private slots:
     void findings_data();
     void findings();
     void longListsAreCut();
+    void damagedFilesNeverCrash();
 
 private:
     QTemporaryDir m_dir;
@@ -344,6 +346,35 @@ void TestGpsVerifier::longListsAreCut()
     c.listStyle = GpsCheck::ListStyle::Lines;
     c.items.resize(11);
     QCOMPARE(c.untranslatedDetailText().count(u'\n'), 10);
+}
+
+// Random damage anywhere in a member (block, headers, lengths, stamps, a cut
+// end): every outcome is a report, never a crash (the sanitizers watch).
+void TestGpsVerifier::damagedFilesNeverCrash()
+{
+    QTemporaryDir dir;
+    const Built clean = build(Clean, dir.path());
+    QFile original(clean.paths.at(2));
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    const QByteArray roof = original.readAll();
+    QRandomGenerator random(7);
+    for (int round = 0; round < 300; ++round) {
+        QByteArray bytes = roof;
+        for (int n = random.bounded(1, 8); n > 0; --n)
+            bytes[random.bounded(int(bytes.size()))] = char(random.bounded(256));
+        if (round % 3 == 0)
+            bytes.truncate(random.bounded(int(bytes.size())));
+        QVERIFY(!write(clean.paths.at(2), bytes).isEmpty());
+        GpsSyncSet set;
+        set.setGroups(clean.patch);
+        set.setPaths(clean.paths);
+        const GpsVerification &v = set.load(&clean.patch);
+        QVERIFY(!v.checks.isEmpty() && !v.summary.isEmpty());
+        for (qint64 f = 0; f < set.frameCount(); ++f)
+            for (const GpsFrameRecord &r : set.frame(f))
+                QVERIFY(r.data.size() <= 512);
+        set.timestampDifferenceAt(set.frameCount() - 1);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestGpsVerifier)
