@@ -2,6 +2,7 @@
 #include "cli/colourcommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
+#include "cli/gpsverifycommand.h"
 #include "cli/logcommand.h"
 #include "cli/listencommand.h"
 #include "cli/patchcommand.h"
@@ -29,6 +30,8 @@ const Command kCommands[] = {
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
     {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
+    {"gps-verify", "verify a GPS-Sync set (one .tpx per group) against a patch, check by check",
+     runGpsVerifyCommand},
     {"generate", "write sample files (demo patch and recording, MADRIX, ELM, packet log) from our generators",
      runGenerateCommand},
 };
