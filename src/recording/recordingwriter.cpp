@@ -72,6 +72,9 @@ bool RecordingWriter::open(const QString &path, int frameRate, int recordsPerFra
 
 void RecordingWriter::setSource(RecordFlavour flavour, const QString &kelDeviceName)
 {
+    // Called for every live packet: the common case, an unchanged source, costs a compare.
+    if (flavour == m_flavour && kelDeviceName == m_kelDeviceName)
+        return;
     m_flavour = flavour;
     m_kelDeviceName = kelDeviceName;
     m_kelName = kelNameBytes(kelDeviceName);
