@@ -1,6 +1,7 @@
 #include "app/mainwindow.h"
 
 #include "monitor/pixeltexts.h"
+#include "monitor/recordedframe.h"
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
@@ -10,7 +11,9 @@
 #include "panels/statuslabel.h"
 #include "patch/patchloader.h"
 #include "recording/playbackclock.h"
+#include "recording/recording.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -30,6 +33,8 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -51,6 +56,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 
     m_clock = new PlaybackClock(this);
     m_journal = std::make_unique<PacketLog::PacketJournal>();
+    m_recording = std::make_unique<Recording>();
 
     buildCentralWidget();
     wireMonitorBar();
@@ -59,6 +65,13 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 
     loadSettings();
     applySourceMode();
+
+    // Space plays and pauses, as in the sibling controller; the Playback menu takes this action over.
+    auto *playPause = new QAction(this);
+    playPause->setObjectName(QStringLiteral("playPauseAction"));
+    playPause->setShortcut(Qt::Key_Space);
+    connect(playPause, &QAction::triggered, this, &MainWindow::onPlayPause);
+    addAction(playPause);
 
     // The clock runs in its own thread: its signals arrive queued.
     connect(m_clock, &PlaybackClock::tick, this, &MainWindow::onFrameTick, Qt::QueuedConnection);
@@ -71,6 +84,7 @@ MainWindow::~MainWindow()
 {
     saveSettings();
     m_clock->stop();
+    m_clock->wait();
     // The node and the live recording file join this teardown with the
     // broadcast workflow: node stopped, then file closed, before the members go.
 }
@@ -444,20 +458,93 @@ void MainWindow::onUploadRequested(const QString &path)
     const qint64 drawn = m_layout.drawablePixelCount();
     showStatus([drawn] { return tr("%1 pixels drawn.").arg(drawn); }, 0);
     applySourceMode();
+    // A loaded recording is evaluated against the new patch.
+    if (m_recording->isLoaded())
+        onRecordingLoadRequested(m_recording->path());
     saveSettings();
 }
 
 void MainWindow::onRecordingLoadRequested(const QString &path)
 {
+    if (path.trimmed().isEmpty()) {
+        showStatus([] { return tr("Enter a .tpx path or pick one with the ... button."); }, 5000);
+        return;
+    }
+    if (!QFileInfo::exists(path)) {
+        showStatus([path] { return tr("File not found: %1").arg(path); }, 5000);
+        return;
+    }
     m_kept.playbackLastPath = path;
-    showStatus([] { return tr("Recording playback is not available in this build yet."); }, 5000);
+    m_clock->stop();
+    const RecordingLoadResult result = m_recording->load(path, m_patchLoaded ? &m_patch : nullptr);
+    if (!result.ok) {
+        const TPatch::PatchMessage error = result.error;
+        showStatus([error] { return error.text(); }, 0);
+        return;
+    }
+    const int fps = std::max(1, m_kept.playbackFps);
+    m_clock->setFrameCount(m_recording->frameCount());
+    m_clock->setFps(fps);
+    m_clock->seek(0);
+
+    // The inspector offers every universe the patch or the recording carries.
+    QVector<quint16> universes(m_layout.portAddressPixels.keyBegin(), m_layout.portAddressPixels.keyEnd());
+    universes += m_recording->universes();
+    std::sort(universes.begin(), universes.end());
+    universes.erase(std::unique(universes.begin(), universes.end()), universes.end());
+    m_dmxInspector->setUniverses(universes);
+    m_colours.clear();
+    showFrame(0);
+
+    const QString fileName = QFileInfo(path).fileName();
+    const QString format = m_recording->formatLabel();
+    const qint64 frames = m_recording->frameCount();
+    showStatus(
+        [fileName, format, frames, fps] {
+            return tr("%1 · %2 · %3 frames · %4 s at %5 fps")
+                       .arg(fileName, format)
+                       .arg(frames)
+                       .arg(double(frames) / fps, 0, 'f', 1)
+                       .arg(fps)
+                   + QStringLiteral("  |  ") + tr("Space plays and pauses.");
+        },
+        0);
+    saveSettings();
+}
+
+void MainWindow::showFrame(qint64 frame)
+{
+    m_currentFrame = frame;
+    applyRecordedFrame(m_colours, m_layout, *m_recording, frame);
+    pushMonitor();
+}
+
+void MainWindow::onPlayPause()
+{
+    if (!m_recordedRadio->isChecked()) {
+        showStatus([] { return tr("Playback controls work in Recorded playback mode."); }, 5000);
+        return;
+    }
+    if (m_recording->frameCount() < 1) {
+        showStatus([] { return tr("Nothing to play - no recording is loaded."); }, 5000);
+        return;
+    }
+    if (m_clock->isPlaying()) {
+        m_clock->stop();
+        showStatus([] { return tr("Playback paused."); }, 0);
+        return;
+    }
+    m_clock->setFps(std::max(1, m_kept.playbackFps));
+    m_clock->setLoop(true);
+    m_clock->setFrameCount(m_recording->frameCount());
+    m_clock->seek(m_currentFrame);
+    m_clock->play();
+    showStatus([] { return tr("Playing."); }, 0);
 }
 
 void MainWindow::onFrameTick(qint64 frame)
 {
-    m_currentFrame = frame;
-    // Frames are shown by the playback workflow; acknowledging keeps the
-    // clock's one-outstanding-tick back-pressure moving meanwhile.
+    showFrame(frame);
     m_clock->acknowledge();
 }
 

@@ -24,6 +24,7 @@ class LedMonitorView;
 class PatchBar;
 class PlaceholderPanel;
 class PlaybackClock;
+class Recording;
 namespace PacketLog {
 class PacketJournal;
 }
@@ -57,6 +58,7 @@ public:
     void openFiles(const QString &patchPath, const QString &recordingPath);
 
     bool isPatchLoaded() const { return m_patchLoaded; }
+    qint64 currentFrame() const { return m_currentFrame; }
     const TPatch::PixelLayout &pixelLayout() const { return m_layout; }
     PixelColourBuffer &colourBuffer() { return m_colours; }
     const TPatch::PatchData &patch() const { return m_patch; }
@@ -70,6 +72,7 @@ public slots:
     void onFitToView();
     void onInspectedUniverseChanged(int portAddress);
     void onFrameTick(qint64 frame);
+    void onPlayPause();
     void onPlaybackFinished();
     void onPerformanceWarning(double measuredFps);
 
@@ -132,6 +135,8 @@ private:
     PlaybackClock *m_clock = nullptr;
     std::unique_ptr<PacketLog::PacketJournal> m_journal;
     qint64 m_currentFrame = 0;
+    std::unique_ptr<Recording> m_recording;
+    void showFrame(qint64 frame);
 
     TPatch::PatchData m_patch;
     QString m_patchPath;

@@ -3,6 +3,7 @@
 #include "cli/clicommon.h"
 #include "monitor/monitorrender.h"
 #include "monitor/pixelcolourbuffer.h"
+#include "monitor/recordedframe.h"
 #include "patch/patchloader.h"
 #include "patch/pixellayout.h"
 #include "recording/recording.h"
@@ -154,12 +155,7 @@ int runRenderCommand(const QStringList &arguments)
                          .arg(recorded.frameCount()));
             return ExitRefused;
         }
-        // As playback shows a frame: every record's universe against the pixels patched on it.
-        for (const RecordRef &record : recorded.frameRecords(frameNumber)) {
-            const QByteArrayView data = recorded.dataOf(record);
-            buffer.applyUniverse(layout.pixelsForPortAddress(record.universe),
-                                 reinterpret_cast<const quint8 *>(data.data()), int(data.size()));
-        }
+        applyRecordedFrame(buffer, layout, recorded, frameNumber);
     }
 
     const QImage image = viewName == QLatin1StringView("3d")

@@ -1,5 +1,6 @@
 #include "app/appsettings.h"
 #include "app/mainwindow.h"
+#include "monitor/widgets/ledmonitorview.h"
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3drenderer.h"
 #include "monitor/widgets/led3dview.h"
@@ -53,6 +54,7 @@ private slots:
     void expiredStatusIsNotBroughtBack();
     void patchBarRefusesBlankPath();
     void loadingDemoPatchReports();
+    void demoRecordingShowsAndPlays();
     void monitorBarDrivesTheViews();
 };
 
@@ -312,6 +314,36 @@ void TestMainWindow::monitorBarDrivesTheViews()
              qPrintable(hint->text()));
     emit view2d->cellHovered(-1);
     QVERIFY(hint->text().isEmpty());
+}
+
+void TestMainWindow::demoRecordingShowsAndPlays()
+{
+    MainWindow w;
+    w.show();
+    w.openFiles(QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"), QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpx"));
+    QVERIFY2(w.statusBar()->currentMessage().startsWith(QStringLiteral("demo.tpx · Art-Net · 120 frames · 3.0 s at 40 fps")),
+             qPrintable(w.statusBar()->currentMessage()));
+    QCOMPARE(w.currentFrame(), 0);
+
+    // Frame 0 of the demo lights the monitor.
+    const QImage frame0 = w.findChild<LedMonitorView *>(QStringLiteral("LedMonitorView"))->snapshot();
+    bool lit = false;
+    for (int y = 0; y < frame0.height() && !lit; y += 2)
+        for (int x = 0; x < frame0.width() && !lit; x += 2) {
+            const QColor c = frame0.pixelColor(x, y);
+            lit = c.value() > 120 && c != QColor(60, 60, 60);
+        }
+    QVERIFY(lit);
+
+    // Space plays: frames advance; Space again pauses.
+    auto *playPause = w.findChild<QAction *>(QStringLiteral("playPauseAction"));
+    QVERIFY(playPause);
+    QCOMPARE(playPause->shortcut(), QKeySequence(Qt::Key_Space));
+    playPause->trigger();
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("Playing."));
+    QTRY_VERIFY_WITH_TIMEOUT(w.currentFrame() >= 3, 5000);
+    playPause->trigger();
+    QCOMPARE(w.statusBar()->currentMessage(), QStringLiteral("Playback paused."));
 }
 
 QTEST_MAIN(TestMainWindow)
