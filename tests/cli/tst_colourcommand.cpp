@@ -1,7 +1,6 @@
+#include "clirunner.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QtTest>
 
 // talu-cli colour as a user scripts it.
@@ -15,23 +14,7 @@ private slots:
     void json();
 };
 
-namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray out;
-};
-
-Run runCli(const QStringList &arguments)
-{
-    QProcess p;
-    p.start(QStringLiteral(TALU_CLI_PATH), arguments);
-    p.waitForFinished(60000);
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput().trimmed()};
-}
-
-} // namespace
+using TestCli::run;
 
 void TestColourCommand::colour_data()
 {
@@ -58,17 +41,16 @@ void TestColourCommand::colour()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QByteArray, out);
-    const Run run = runCli(QStringList{QStringLiteral("colour")} + arguments);
-    QCOMPARE(run.exitCode, exitCode);
-    QCOMPARE(run.out, out);
+    const TestCli::Run r = run(QStringList{QStringLiteral("colour")} + arguments);
+    QCOMPARE(r.exitCode, exitCode);
+    QCOMPARE(r.out.trimmed(), out);
 }
 
 void TestColourCommand::json()
 {
-    const Run run = runCli({QStringLiteral("colour"), QStringLiteral("--json"), QStringLiteral("--white"),
-                            QStringLiteral("--roles"), QStringLiteral("R,-,WW"), QStringLiteral("200,9")});
-    QCOMPARE(run.exitCode, 0);
-    const QJsonObject o = QJsonDocument::fromJson(run.out).object();
+    const TestCli::Run r = run({"colour", "--json", "--white", "--roles", "R,-,WW", "200,9"});
+    QCOMPARE(r.exitCode, 0);
+    const QJsonObject o = r.json();
     QCOMPARE(o.value(QLatin1StringView("colour")).toString(), QStringLiteral("0xFFC80000"));
     QCOMPARE(o.value(QLatin1StringView("red")).toInt(), 200);
     QCOMPARE(o.value(QLatin1StringView("white")).toBool(), true);

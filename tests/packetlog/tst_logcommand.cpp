@@ -1,34 +1,12 @@
 // talu-cli log and filter, run as scripts run them: as a process, output parsed.
+#include "clirunner.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run talu(const QStringList &arguments)
-{
-    QProcess p;
-    p.start(QStringLiteral(TALU_CLI_PATH), arguments);
-    Run r;
-    if (!p.waitForFinished(60000))
-        return r;
-    r.exitCode = p.exitCode();
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
-}
-
-} // namespace
+using Run = TestCli::Run;
+static Run talu(const QStringList &arguments) { return TestCli::run(arguments); }
 
 class TestLogCommand : public QObject
 {
@@ -68,11 +46,11 @@ private slots:
     {
         const Run r = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("frame.len >")});
         QCOMPARE(r.exitCode, 1);
-        const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+        const QJsonObject o = r.json();
         QCOMPARE(o.value(QStringLiteral("ok")).toBool(true), false);
         QCOMPARE(o.value(QStringLiteral("error")).toString(), QStringLiteral("Missing value after '>'."));
         const Run good = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("!talu.dir == in")});
-        const QJsonObject root = QJsonDocument::fromJson(good.out).object().value(QStringLiteral("root")).toObject();
+        const QJsonObject root = good.json().value(QStringLiteral("root")).toObject();
         QCOMPARE(root.value(QStringLiteral("node")).toString(), QStringLiteral("not"));
         const QJsonObject child = root.value(QStringLiteral("child")).toObject();
         QCOMPARE(child.value(QStringLiteral("field")).toString(), QStringLiteral("talu.dir"));
@@ -94,7 +72,7 @@ private slots:
         const Run r = talu({QStringLiteral("log"), m_sample, QStringLiteral("--json"), QStringLiteral("--filter"),
                             QStringLiteral("artnet.universe == 2 && artnet.opcode == artdmx")});
         QCOMPARE(r.exitCode, 0);
-        const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+        const QJsonObject o = r.json();
         QCOMPARE(o.value(QStringLiteral("format")).toString(), QStringLiteral("tlog"));
         QCOMPARE(o.value(QStringLiteral("total")).toInt(), 16);
         QCOMPARE(o.value(QStringLiteral("matched")).toInt(), 3);
