@@ -2,7 +2,6 @@
 #include "patch/gzipinflate.h"
 #include "patch/madrixreader.h"
 #include "patch/patchkeys.h"
-#include "patch/patchloader.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -101,7 +100,6 @@ private slots:
     void hostileXmlIsBounded();
     void largePatchReadsAsInOnePass_data();
     void largePatchReadsAsInOnePass();
-    void loaderSniffsMadrix();
 };
 
 void TestMadrixReader::mapping_data()
@@ -545,28 +543,6 @@ void TestMadrixReader::largePatchReadsAsInOnePass()
             QCOMPARE(a.at(t).fixtures.at(f).leds.first().address,
                      b.at(t).fixtures.at(f).leds.first().address);
         }
-    }
-}
-
-void TestMadrixReader::loaderSniffsMadrix()
-{
-    QTemporaryDir dir;
-    const QByteArray xml = writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T"))));
-    const struct
-    {
-        const char *name;
-        QByteArray bytes;
-    } files[] = {{"a.MPZ", xml}, {"b.xml", xml}, {"c.bin", gzipCompress(xml)}};
-    for (const auto &f : files) {
-        const QString path = dir.filePath(QString::fromLatin1(f.name));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(f.bytes);
-        file.close();
-        QCOMPARE(sniffPatchFormat(path), PatchFormat::Madrix);
-        const PatchLoadResult r = loadPatch(path);
-        QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
-        QCOMPARE(r.patch.sourceKind, SourceKind::Madrix);
     }
 }
 
