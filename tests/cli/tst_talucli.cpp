@@ -1,6 +1,7 @@
 #include "cli/demopatch.h"
 #include "clirunner.h"
 #include "patch/tpatchwriter.h"
+#include "testfiles.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -31,11 +32,7 @@ private:
 
 QString TestTaluCli::writePatch(const TPatch::PatchData &patch)
 {
-    const QString path = m_dir.filePath(QStringLiteral("p.tpatch"));
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(TPatch::writeTPatch(patch));
-    return path;
+    return TestFiles::write(m_dir.filePath(QStringLiteral("p.tpatch")), TPatch::writeTPatch(patch));
 }
 
 void TestTaluCli::usageErrors_data()
@@ -83,11 +80,7 @@ void TestTaluCli::patchJsonOnDemo()
 
 void TestTaluCli::patchRefused()
 {
-    const QString path = m_dir.filePath(QStringLiteral("empty.tpatch"));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("{\"corePatchData\": []}");
-    f.close();
+    const QString path = TestFiles::write(m_dir.filePath(QStringLiteral("empty.tpatch")), "{\"corePatchData\": []}");
     const TestCli::Run r = run({"patch", path, "--json"});
     QCOMPARE(r.exitCode, 1);
     const QJsonObject o = r.json();
@@ -124,10 +117,7 @@ void TestTaluCli::generatedDemoMatchesBundled()
     // examples/demo.tpatch is what the generator writes today; regenerate it when the generator changes.
     const QString path = m_dir.filePath(QStringLiteral("demo.tpatch"));
     QCOMPARE(run({"generate", "demo-patch", path}).exitCode, 0);
-    QFile generated(path), bundled(example("demo.tpatch"));
-    QVERIFY(generated.open(QIODevice::ReadOnly));
-    QVERIFY(bundled.open(QIODevice::ReadOnly));
-    QVERIFY2(generated.readAll() == bundled.readAll(),
+    QVERIFY2(TestFiles::read(path) == TestFiles::read(example("demo.tpatch")),
              "examples/demo.tpatch is stale: run talu-cli generate demo-patch examples/demo.tpatch");
 }
 

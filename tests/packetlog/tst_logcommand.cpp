@@ -1,5 +1,6 @@
 // talu-cli log and filter, run as scripts run them: as a process, output parsed.
 #include "clirunner.h"
+#include "testfiles.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -99,9 +100,7 @@ private slots:
         r = talu({QStringLiteral("log"), capture, QStringLiteral("--filter"), QStringLiteral("talu.dir == out"),
                   QStringLiteral("--export"), QStringLiteral("csv"), QStringLiteral("-o"), csv});
         QCOMPARE(r.exitCode, 0);
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll().count('\n'), 4); // header and three sends
+        QCOMPARE(TestFiles::read(csv).count('\n'), 4); // header and three sends
         // pcapng -> filtered .tlog -> the same lines as filtering the original.
         const QString tlog = m_dir.filePath(QStringLiteral("dmx.tlog"));
         const QString dmx = QStringLiteral("artnet.opcode == artdmx");
@@ -138,14 +137,8 @@ private slots:
 
     void damagedFileWarns()
     {
-        QFile in(m_sample);
-        QVERIFY(in.open(QIODevice::ReadOnly));
-        const QByteArray cut = in.readAll().left(32 + 296 * 3 + 10);
-        const QString path = m_dir.filePath(QStringLiteral("cut.tlog"));
-        QFile out(path);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(cut);
-        out.close();
+        const QString path =
+            TestFiles::write(m_dir.filePath(QStringLiteral("cut.tlog")), TestFiles::read(m_sample).left(32 + 296 * 3 + 10));
         const Run r = talu({QStringLiteral("log"), path});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.out.count('\n'), 3);

@@ -2,6 +2,7 @@
 #include "patch/gzipinflate.h"
 #include "patch/madrixreader.h"
 #include "patch/patchkeys.h"
+#include "testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -405,16 +406,8 @@ void TestMadrixReader::plainAndGzipReadAlike()
     const QByteArray xml = writeMadrixXml(s);
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    const QString plainPath = dir.filePath(QStringLiteral("plain.mpz"));
-    const QString gzipPath = dir.filePath(QStringLiteral("packed.mpz"));
-    QFile plain(plainPath);
-    QVERIFY(plain.open(QIODevice::WriteOnly));
-    plain.write(xml);
-    plain.close();
-    QFile packed(gzipPath);
-    QVERIFY(packed.open(QIODevice::WriteOnly));
-    packed.write(gzipCompress(xml));
-    packed.close();
+    const QString plainPath = TestFiles::write(dir.filePath(QStringLiteral("plain.mpz")), xml);
+    const QString gzipPath = TestFiles::write(dir.filePath(QStringLiteral("packed.mpz")), gzipCompress(xml));
 
     const PatchLoadResult a = readMadrixPatch(plainPath);
     const PatchLoadResult b = readMadrixPatch(gzipPath);

@@ -3,6 +3,7 @@
 #include "cli/madrixsample.h"
 #include "patch/patchloader.h"
 #include "patch/tpatchwriter.h"
+#include "testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -49,12 +50,8 @@ void TestPatchLoader::sniffing()
     QFETCH(int, format);
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    QString path = dir.filePath(name.isEmpty() ? QStringLiteral("absent.tpatch") : name);
-    if (!name.isEmpty()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(head);
-    }
+    const QString path = dir.filePath(name.isEmpty() ? QStringLiteral("absent.tpatch") : name);
+    QVERIFY(name.isEmpty() || !TestFiles::write(path, head).isEmpty());
     QCOMPARE(int(sniffPatchFormat(path)), format);
 }
 
@@ -85,11 +82,7 @@ void TestPatchLoader::loadThroughEntryPoint()
     QFETCH(int, kind);
     QFETCH(QString, format);
     QTemporaryDir dir;
-    const QString path = dir.filePath(name);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
+    const QString path = TestFiles::write(dir.filePath(name), bytes);
     const PatchLoadResult r = loadPatch(path);
     QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
     QCOMPARE(r.patch.sourcePath, path);

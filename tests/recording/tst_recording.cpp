@@ -1,6 +1,7 @@
 #include "patch/patchdata.h"
 #include "recording/gpsmetadatablock.h"
 #include "recording/recording.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -86,9 +87,7 @@ class TestRecording : public QObject
     QString write(const QString &name, const QByteArray &bytes)
     {
         const QString path = m_dir.filePath(name);
-        QFile f(path);
-        f.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        f.write(bytes);
+        TestFiles::write(path, bytes);
         return path;
     }
 
