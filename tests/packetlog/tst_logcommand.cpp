@@ -26,8 +26,6 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("output");
-        QTest::newRow("tree") << QStringList{"a || b && c"} << 0
-                              << "(info contains \"a\" || (info contains \"b\" && info contains \"c\"))\n";
         QTest::newRow("joined arguments") << QStringList{"frame.len", ">", "100"} << 0 << "(frame.len > 100)\n";
         QTest::newRow("empty") << QStringList{" "} << 0 << "(no filter: every record is shown)\n";
         QTest::newRow("error") << QStringList{"(frame.len > 100"} << 1 << "error: Missing ')'.\n";
