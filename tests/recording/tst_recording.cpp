@@ -214,10 +214,10 @@ private slots:
     void openErrors()
     {
         QDir(m_dir.path()).mkdir(QStringLiteral("folder.tpx"));
-        for (const QString name : {QStringLiteral("missing.tpx"), QStringLiteral("folder.tpx")}) {
-            const auto result = Recording().load(m_dir.filePath(name));
+        for (const char *name : {"missing.tpx", "folder.tpx"}) {
+            const auto result = Recording().load(m_dir.filePath(QLatin1String(name)));
             QVERIFY(!result.ok);
-            QVERIFY(result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"%1\": ").arg(name)));
+            QVERIFY(result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"%1\": ").arg(QLatin1String(name))));
         }
     }
 
