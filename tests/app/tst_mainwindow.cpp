@@ -8,6 +8,7 @@
 #include "monitor/widgets/ledmonitorview.h"
 #include "panels/patchbar.h"
 #include "panels/statuslabel.h"
+#include "testfiles.h"
 
 #include <QCheckBox>
 #include <QFile>
@@ -146,10 +147,8 @@ void TestMainWindow::corruptSettingsFileStillStarts()
 {
     const QString path = openSettings()->fileName();
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General\x01\xff]\nplayback/fps=abc\nmonitor/viewTab=\x00\x02\n[[[\n\xfe\xfe", 48);
-    file.close();
+    QVERIFY(!TestFiles::write(path, QByteArray("[General\x01\xff]\nplayback/fps=abc\nmonitor/viewTab=\x00\x02\n[[[\n\xfe\xfe", 48))
+                 .isEmpty());
     MainWindow w;
     QCOMPARE(w.currentSettings().playbackFps, 40); // unreadable: the default
 }

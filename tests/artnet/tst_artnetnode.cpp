@@ -209,13 +209,11 @@ void TestArtNetNode::sequenceErrors_data()
 {
     QTest::addColumn<QVector<int>>("sequences"); // on universe 1; negative: on universe 2
     QTest::addColumn<int>("errors");
+    // The comparison itself is tabled in the packet test; these rows check what the node keeps.
     QTest::newRow("5 after 5") << QVector<int>{5, 5} << 1;
-    QTest::newRow("7 after 5") << QVector<int>{5, 7} << 0;
-    QTest::newRow("1 after 255") << QVector<int>{255, 1} << 0;
     QTest::newRow("0 never counts") << QVector<int>{5, 0, 0} << 0;
     QTest::newRow("0 keeps the stored value") << QVector<int>{5, 0, 5} << 1;
     QTest::newRow("first packet") << QVector<int>{200} << 0;
-    QTest::newRow("4 after 5") << QVector<int>{5, 4} << 1;
     QTest::newRow("error stores the new value") << QVector<int>{9, 3, 4} << 1;
     QTest::newRow("universes apart") << QVector<int>{5, -5, 6, -6} << 0;
 }

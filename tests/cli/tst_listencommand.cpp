@@ -1,4 +1,5 @@
 #include "artnet/artnetpacket.h"
+#include "clirunner.h"
 #include "recording/recording.h"
 
 #include <QJsonArray>
@@ -96,14 +97,10 @@ void TestListenCommand::advertisesThePatchUniverses()
 {
     QTemporaryDir dir;
     const QString patch = dir.filePath(QStringLiteral("demo.tpatch"));
-    QCOMPARE(QProcess::execute(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("generate"), QStringLiteral("demo-patch"), patch}), 0);
-    QProcess listen;
-    listen.start(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("listen"), QStringLiteral("--seconds"), QStringLiteral("0"),
-                                                 QStringLiteral("--patch"), patch, QStringLiteral("--port"),
-                                                 QStringLiteral("6460")});
-    QVERIFY(listen.waitForFinished(10000));
-    QCOMPARE(listen.exitCode(), 0);
-    const QString err = QString::fromUtf8(listen.readAllStandardError());
+    QCOMPARE(TestCli::run({"generate", "demo-patch", patch}).exitCode, 0);
+    const TestCli::Run listen = TestCli::run({"listen", "--seconds", "0", "--patch", patch, "--port", "6460"});
+    QCOMPARE(listen.exitCode, 0);
+    const QString err = QString::fromUtf8(listen.err);
     const QRegularExpression count(QStringLiteral("advertising (\\d+) universe"));
     const QRegularExpressionMatch m = count.match(err);
     QVERIFY2(m.hasMatch(), qPrintable(err));
@@ -158,18 +155,14 @@ void TestListenCommand::refusals_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("message");
-    QTest::newRow("bad universe") << QStringList{QStringLiteral("--universes"), QStringLiteral("1,0x8000")} << 2
+    QTest::newRow("bad universe") << QStringList{"--universes", "1,0x8000"} << 2
                                   << QStringLiteral("\"0x8000\" is not a Port-Address");
-    QTest::newRow("both sources") << QStringList{QStringLiteral("--universes"), QStringLiteral("1"), QStringLiteral("--patch"),
-                                                 QStringLiteral("x")}
-                                  << 2 << QStringLiteral("not both");
-    QTest::newRow("bad port") << QStringList{QStringLiteral("--port"), QStringLiteral("70000")} << 2
-                              << QStringLiteral("not a port number");
-    QTest::newRow("missing patch") << QStringList{QStringLiteral("--patch"), QStringLiteral("/nonexistent/x.tpatch")} << 1
-                                   << QString();
-    QTest::newRow("address not local") << QStringList{QStringLiteral("--address"), QStringLiteral("192.0.2.99"),
-                                                      QStringLiteral("--seconds"), QStringLiteral("1")}
-                                       << 1 << QStringLiteral("cannot listen on 192.0.2.99:6454 - ");
+    QTest::newRow("both sources") << QStringList{"--universes", "1", "--patch", "x"} << 2
+                                  << QStringLiteral("not both");
+    QTest::newRow("bad port") << QStringList{"--port", "70000"} << 2 << QStringLiteral("not a port number");
+    QTest::newRow("missing patch") << QStringList{"--patch", "/nonexistent/x.tpatch"} << 1 << QString();
+    QTest::newRow("address not local") << QStringList{"--address", "192.0.2.99", "--seconds", "1"} << 1
+                                       << QStringLiteral("cannot listen on 192.0.2.99:6454 - ");
 }
 
 void TestListenCommand::refusals()
@@ -177,11 +170,9 @@ void TestListenCommand::refusals()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
-    QProcess listen;
-    listen.start(QStringLiteral(TALU_CLI_PATH), QStringList{QStringLiteral("listen")} + arguments);
-    QVERIFY(listen.waitForFinished(10000));
-    QCOMPARE(listen.exitCode(), exitCode);
-    const QString err = QString::fromUtf8(listen.readAllStandardError());
+    const TestCli::Run listen = TestCli::run(QStringList{"listen"} + arguments, 10000);
+    QCOMPARE(listen.exitCode, exitCode);
+    const QString err = QString::fromUtf8(listen.err);
     QVERIFY2(err.contains(message), qPrintable(err));
 }
 

@@ -1,7 +1,6 @@
+#include "clirunner.h"
+
 #include <QImage>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -22,21 +21,12 @@ private:
 
 namespace {
 
-const QString kPatch = QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch");
-const QString kRecording = QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpx");
+const QString kPatch = TestCli::example(QStringLiteral("demo.tpatch"));
+const QString kRecording = TestCli::example(QStringLiteral("demo.tpx"));
 
-struct Run
+TestCli::Run runCli(const QStringList &arguments)
 {
-    int exitCode = -1;
-    QByteArray out;
-};
-
-Run runCli(const QStringList &arguments)
-{
-    QProcess p;
-    p.start(QStringLiteral(TALU_CLI_PATH), QStringList{QStringLiteral("render")} + arguments);
-    p.waitForFinished(120000);
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput()};
+    return TestCli::run(QStringList{QStringLiteral("render")} + arguments);
 }
 
 // Pixels that are neither the 2D background nor a grey of the 3D gradient.
@@ -59,15 +49,16 @@ void TestRenderCommand::refusals_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("exitCode");
     const QString out = QStringLiteral("/nonexistent-folder/x.png");
-    QTest::newRow("no patch") << QStringList{QStringLiteral("-o"), QStringLiteral("x.png")} << 2;
-    QTest::newRow("no output") << QStringList{QStringLiteral("--patch"), kPatch} << 2;
-    QTest::newRow("bad view") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--view"), QStringLiteral("4d"), QStringLiteral("-o"), out} << 2;
-    QTest::newRow("bad size") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--size"), QStringLiteral("0x10"), QStringLiteral("-o"), out} << 2;
-    QTest::newRow("bad yaw") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--yaw"), QStringLiteral("nan"), QStringLiteral("-o"), out} << 2;
-    QTest::newRow("frame without recording") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--frame"), QStringLiteral("3"), QStringLiteral("-o"), out} << 2;
-    QTest::newRow("missing patch") << QStringList{QStringLiteral("--patch"), QStringLiteral("/nonexistent.tpatch"), QStringLiteral("-o"), out} << 1;
-    QTest::newRow("frame past the end") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--recording"), kRecording, QStringLiteral("--frame"), QStringLiteral("100000"), QStringLiteral("-o"), out} << 1;
-    QTest::newRow("unwritable output") << QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("-o"), out} << 1;
+    QTest::newRow("no patch") << QStringList{"-o", "x.png"} << 2;
+    QTest::newRow("no output") << QStringList{"--patch", kPatch} << 2;
+    QTest::newRow("bad view") << QStringList{"--patch", kPatch, "--view", "4d", "-o", out} << 2;
+    QTest::newRow("bad size") << QStringList{"--patch", kPatch, "--size", "0x10", "-o", out} << 2;
+    QTest::newRow("bad yaw") << QStringList{"--patch", kPatch, "--yaw", "nan", "-o", out} << 2;
+    QTest::newRow("frame without recording") << QStringList{"--patch", kPatch, "--frame", "3", "-o", out} << 2;
+    QTest::newRow("missing patch") << QStringList{"--patch", "/nonexistent.tpatch", "-o", out} << 1;
+    QTest::newRow("frame past the end")
+        << QStringList{"--patch", kPatch, "--recording", kRecording, "--frame", "100000", "-o", out} << 1;
+    QTest::newRow("unwritable output") << QStringList{"--patch", kPatch, "-o", out} << 1;
 }
 
 void TestRenderCommand::refusals()
@@ -81,20 +72,19 @@ void TestRenderCommand::demoFrameIsLit_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::newRow("2d") << QStringList{};
-    QTest::newRow("3d") << QStringList{QStringLiteral("--view"), QStringLiteral("3d"), QStringLiteral("--yaw"), QStringLiteral("30")};
-    QTest::newRow("3d fast") << QStringList{QStringLiteral("--view"), QStringLiteral("3d"), QStringLiteral("--fast")};
+    QTest::newRow("3d") << QStringList{"--view", "3d", "--yaw", "30"};
+    QTest::newRow("3d fast") << QStringList{"--view", "3d", "--fast"};
 }
 
 void TestRenderCommand::demoFrameIsLit()
 {
     QFETCH(QStringList, options);
     const QString out = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()).replace(QLatin1Char(' '), QLatin1Char('_')) + QStringLiteral(".png"));
-    const Run run = runCli(QStringList{QStringLiteral("--patch"), kPatch, QStringLiteral("--recording"), kRecording,
-                                       QStringLiteral("--frame"), QStringLiteral("40"), QStringLiteral("--size"),
-                                       QStringLiteral("640x360"), QStringLiteral("--json"), QStringLiteral("-o"), out}
-                           + options);
+    const TestCli::Run run = runCli(QStringList{"--patch", kPatch, "--recording", kRecording, "--frame", "40",
+                                                "--size", "640x360", "--json", "-o", out}
+                                    + options);
     QCOMPARE(run.exitCode, 0);
-    const QJsonObject json = QJsonDocument::fromJson(run.out).object();
+    const QJsonObject json = run.json();
     QCOMPARE(json.value(QStringLiteral("frame")).toInt(), 40);
     QVERIFY(json.value(QStringLiteral("frames")).toInt() > 40);
     QVERIFY(json.value(QStringLiteral("pixels")).toInt() > 0);

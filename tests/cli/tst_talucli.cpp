@@ -1,51 +1,39 @@
+#include "cli/demopatch.h"
+#include "clirunner.h"
+#include "patch/tpatchwriter.h"
+#include "testfiles.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run talu(const QStringList &arguments)
-{
-    QProcess p;
-    p.start(QStringLiteral(TALU_CLI_PATH), arguments);
-    Run r;
-    if (!p.waitForFinished(60000))
-        return r;
-    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2;
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
-}
-
-QJsonObject json(const Run &r)
-{
-    QJsonParseError e{};
-    const QJsonDocument d = QJsonDocument::fromJson(r.out, &e);
-    return d.object();
-}
-
-} // namespace
+// talu-cli as users script it: usage, and the patch command with its report.
+using TestCli::example;
+using TestCli::run;
 
 class TestTaluCli : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
     void usageErrors_data();
     void usageErrors();
     void patchJsonOnDemo();
     void patchRefused();
+    void overlapWarningAfterReaderWarnings();
     void generatedDemoMatchesBundled();
+    void generatedFilesLoadAndReport_data();
+    void generatedFilesLoadAndReport();
+
+private:
+    QString writePatch(const TPatch::PatchData &patch);
+    QTemporaryDir m_dir;
 };
+
+QString TestTaluCli::writePatch(const TPatch::PatchData &patch)
+{
+    return TestFiles::write(m_dir.filePath(QStringLiteral("p.tpatch")), TPatch::writeTPatch(patch));
+}
 
 void TestTaluCli::usageErrors_data()
 {
@@ -59,24 +47,25 @@ void TestTaluCli::usageErrors_data()
     QTest::newRow("help") << QStringList{"--help"} << 0;
     QTest::newRow("command help") << QStringList{"patch", "--help"} << 0;
     QTest::newRow("generate unknown kind") << QStringList{"generate", "nothing", "out"} << 2;
+    QTest::newRow("generate no fixtures") << QStringList{"generate", "madrix-patch", "/nonexistent/a.mpz",
+                                                        "--fixtures", "0"} << 2;
 }
 
 void TestTaluCli::usageErrors()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
-    QCOMPARE(talu(arguments).exitCode, exitCode);
+    QCOMPARE(run(arguments).exitCode, exitCode);
 }
 
 void TestTaluCli::patchJsonOnDemo()
 {
-    const Run r = talu({QStringLiteral("patch"), QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"),
-                        QStringLiteral("--json")});
+    const TestCli::Run r = run({"patch", example("demo.tpatch"), "--json"});
     QCOMPARE(r.exitCode, 0);
-    const QJsonObject o = json(r);
+    const QJsonObject o = r.json();
     QCOMPARE(o.value("ok").toBool(), true);
     QVERIFY(o.value("error").isNull());
-    QVERIFY(o.value("warnings").isArray());
+    QVERIFY(o.value("warnings").toArray().isEmpty());
     QCOMPARE(o.value("format").toString(), QStringLiteral("Torvane MOX patch (.tpatch)"));
     QCOMPARE(o.value("project").toString(), QStringLiteral("Harbour Hall demo"));
     QVERIFY(o.value("groups").toInt() >= 3);
@@ -84,39 +73,92 @@ void TestTaluCli::patchJsonOnDemo()
     QVERIFY(o.value("fixtures").toInt() > 0);
     QVERIFY(o.value("pixels").toInt() >= 2000);
     QVERIFY(o.value("kinetics").toInt() > 0);
+    QCOMPARE(o.value("drawablePixels").toInt(), o.value("pixels").toInt());
+    QCOMPARE(o.value("sceneRect").toArray(), (QJsonArray{0, 0, 1700, 600}));
+    QCOMPARE(o.value("zRange").toArray(), (QJsonArray{0, 1}));
 }
 
 void TestTaluCli::patchRefused()
 {
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("empty.tpatch"));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write("{\"corePatchData\": []}");
-    f.close();
-    const Run r = talu({QStringLiteral("patch"), path, QStringLiteral("--json")});
+    const QString path = TestFiles::write(m_dir.filePath(QStringLiteral("empty.tpatch")), "{\"corePatchData\": []}");
+    const TestCli::Run r = run({"patch", path, "--json"});
     QCOMPARE(r.exitCode, 1);
-    const QJsonObject o = json(r);
+    const QJsonObject o = r.json();
     QCOMPARE(o.value("ok").toBool(), false);
     QCOMPARE(o.value("error").toString(), QStringLiteral("\"empty.tpatch\" contains no groups."));
     QCOMPARE(o.value("pixels").toInt(), 0);
+    QCOMPARE(o.value("drawablePixels").toInt(-1), 0);
+    QCOMPARE(o.value("sceneRect").toArray(), (QJsonArray{0, 0, 0, 0}));
+    QVERIFY(o.value("zRange").isNull());
 
-    const Run plain = talu({QStringLiteral("patch"), path});
+    const TestCli::Run plain = run({"patch", path});
     QCOMPARE(plain.exitCode, 1);
     QVERIFY(plain.err.contains("contains no groups."));
+}
+
+void TestTaluCli::overlapWarningAfterReaderWarnings()
+{
+    TPatch::PatchData patch = makeDemoPatch();
+    // Universe 17 collides with universe 1 (reader warnings) and its fixture is
+    // moved onto facade 2's (layout warning, which comes last).
+    TPatch::Torvoverse &t = patch.groups[0].torvoverses[5];
+    t.universe = 17;
+    t.fixtures[0].scenePosX = patch.groups[0].torvoverses[1].fixtures[0].scenePosX;
+    const QJsonArray warnings = run({"patch", "--json", writePatch(patch)}).json().value("warnings").toArray();
+    QCOMPARE(warnings.size(), 3);
+    QVERIFY(warnings.at(0).toString().startsWith(QLatin1StringView("Universe numbers above 15")));
+    QCOMPARE(warnings.at(2).toString(),
+             QStringLiteral("2 fixtures overlap on 1 screen position(s) - only the topmost one is visible. Use the "
+                            "group filter to isolate a torvoverse."));
 }
 
 void TestTaluCli::generatedDemoMatchesBundled()
 {
     // examples/demo.tpatch is what the generator writes today; regenerate it when the generator changes.
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("demo.tpatch"));
-    QCOMPARE(talu({QStringLiteral("generate"), QStringLiteral("demo-patch"), path}).exitCode, 0);
-    QFile generated(path), bundled(QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"));
-    QVERIFY(generated.open(QIODevice::ReadOnly));
-    QVERIFY(bundled.open(QIODevice::ReadOnly));
-    QVERIFY2(generated.readAll() == bundled.readAll(),
+    const QString path = m_dir.filePath(QStringLiteral("demo.tpatch"));
+    QCOMPARE(run({"generate", "demo-patch", path}).exitCode, 0);
+    QVERIFY2(TestFiles::read(path) == TestFiles::read(example("demo.tpatch")),
              "examples/demo.tpatch is stale: run talu-cli generate demo-patch examples/demo.tpatch");
+}
+
+void TestTaluCli::generatedFilesLoadAndReport_data()
+{
+    QTest::addColumn<QStringList>("generate");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<int>("warnings");
+    QTest::newRow("madrix gzip") << QStringList{"madrix-patch", "wall.mpz", "--fixtures", "500"}
+                                 << "MADRIX 5 patch (.mpz)" << 500 << 0;
+    QTest::newRow("madrix plain") << QStringList{"madrix-patch", "wall.mpz", "--plain"}
+                                  << "MADRIX 5 patch (.mpz)" << 256 << 0;
+    QTest::newRow("elm") << QStringList{"elm-project", "show.elm"} << "ENTTEC ELM project (.elm)" << 292 << 2;
+}
+
+void TestTaluCli::generatedFilesLoadAndReport()
+{
+    QFETCH(QStringList, generate);
+    QFETCH(QString, format);
+    QFETCH(int, pixels);
+    QFETCH(int, warnings);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(generate.at(1));
+    generate[1] = file;
+    QCOMPARE(run(QStringList{"generate"} + generate).exitCode, 0);
+
+    const QString logs = dir.filePath(QStringLiteral("logs"));
+    const QJsonObject json = run({"patch", file, "--json", "--report", "--logs", logs}).json();
+    QCOMPARE(json.value("format").toString(), format);
+    QCOMPARE(json.value("pixels").toInt(), pixels);
+    QCOMPARE(json.value("warnings").toArray().size(), warnings);
+    const QString folder = json.value("report").toString();
+    QVERIFY(QFileInfo::exists(QDir(folder).filePath(QStringLiteral("report.txt"))));
+    QVERIFY(QFileInfo::exists(QDir(folder).filePath(QFileInfo(file).fileName())));
+
+    // Plain output ends with the folder; the same load again reuses it.
+    const TestCli::Run plain = run({"patch", file, "--report", "--logs", logs});
+    QCOMPARE(plain.exitCode, 0);
+    QCOMPARE(QString::fromUtf8(plain.out).trimmed().split(u'\n').last(), folder);
+    QCOMPARE(QDir(logs).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestTaluCli)

@@ -27,6 +27,17 @@ QRgb at(const QImage &image, const QPointF &p)
     return image.pixel(p.toPoint()) | 0xFF000000;
 }
 
+// The scene painted on a square picture of that side, the view's centre in the middle.
+QImage paintScene(Monitor3DScene &scene, int side)
+{
+    QImage image(side, side, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.translate(side / 2, side / 2);
+    scene.paint(painter);
+    painter.end();
+    return image;
+}
+
 } // namespace
 
 class TestMonitorRender : public QObject
@@ -136,20 +147,13 @@ void TestMonitorRender::nearerPointsArePaintedLast()
     scene.camera().yaw = scene.camera().pitch = 0;
     scene.setViewRect(QRectF(-100, -100, 200, 200));
     QVERIFY(scene.fit());
-    QImage image(200, 200, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.translate(100, 100);
-    scene.paint(painter);
-    painter.end();
+    const QImage image = paintScene(scene, 200);
     QCOMPARE(scene.drawOrder().constLast(), 0);
     const QPointF p = scene.camera().project(Point3{0, 0, 0}) + scene.camera().pan + QPointF(100, 100);
     QCOMPARE(at(image, p), kRed);
     // Turned round, the other one is in front.
     scene.camera().yaw = 3.14159265358979323846;
-    painter.begin(&image);
-    painter.translate(100, 100);
-    scene.paint(painter);
-    painter.end();
+    paintScene(scene, 200);
     QCOMPARE(scene.drawOrder().constLast(), 1);
 }
 
@@ -161,11 +165,7 @@ void TestMonitorRender::pointsBehindTheCameraAreNotDrawn()
     QVERIFY(scene.setKineticValues({0.0f}));
     scene.camera().yaw = scene.camera().pitch = 0; // distance 300, s = 1
     scene.setViewRect(QRectF(-50, -50, 100, 100));
-    QImage image(100, 100, QImage::Format_RGB32);
-    QPainter painter(&image);
-    painter.translate(50, 50);
-    scene.paint(painter);
-    painter.end();
+    const QImage image = paintScene(scene, 100);
     QVERIFY(at(image, QPointF(50, 50)) != kRed); // z + distance = 1: not drawn
     QCOMPARE(at(image, QPointF(60, 50)), kGreen);
     QVERIFY(at(image, QPointF(70, 50)) != 0xFFFFFFFF); // kinetic line with an end behind: not drawn

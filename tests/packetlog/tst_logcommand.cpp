@@ -1,34 +1,13 @@
 // talu-cli log and filter, run as scripts run them: as a process, output parsed.
+#include "clirunner.h"
+#include "testfiles.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run talu(const QStringList &arguments)
-{
-    QProcess p;
-    p.start(QStringLiteral(TALU_CLI_PATH), arguments);
-    Run r;
-    if (!p.waitForFinished(60000))
-        return r;
-    r.exitCode = p.exitCode();
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
-}
-
-} // namespace
+using Run = TestCli::Run;
+static Run talu(const QStringList &arguments) { return TestCli::run(arguments); }
 
 class TestLogCommand : public QObject
 {
@@ -47,8 +26,6 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("output");
-        QTest::newRow("tree") << QStringList{"a || b && c"} << 0
-                              << "(info contains \"a\" || (info contains \"b\" && info contains \"c\"))\n";
         QTest::newRow("joined arguments") << QStringList{"frame.len", ">", "100"} << 0 << "(frame.len > 100)\n";
         QTest::newRow("empty") << QStringList{" "} << 0 << "(no filter: every record is shown)\n";
         QTest::newRow("error") << QStringList{"(frame.len > 100"} << 1 << "error: Missing ')'.\n";
@@ -68,11 +45,11 @@ private slots:
     {
         const Run r = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("frame.len >")});
         QCOMPARE(r.exitCode, 1);
-        const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+        const QJsonObject o = r.json();
         QCOMPARE(o.value(QStringLiteral("ok")).toBool(true), false);
         QCOMPARE(o.value(QStringLiteral("error")).toString(), QStringLiteral("Missing value after '>'."));
         const Run good = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("!talu.dir == in")});
-        const QJsonObject root = QJsonDocument::fromJson(good.out).object().value(QStringLiteral("root")).toObject();
+        const QJsonObject root = good.json().value(QStringLiteral("root")).toObject();
         QCOMPARE(root.value(QStringLiteral("node")).toString(), QStringLiteral("not"));
         const QJsonObject child = root.value(QStringLiteral("child")).toObject();
         QCOMPARE(child.value(QStringLiteral("field")).toString(), QStringLiteral("talu.dir"));
@@ -94,7 +71,7 @@ private slots:
         const Run r = talu({QStringLiteral("log"), m_sample, QStringLiteral("--json"), QStringLiteral("--filter"),
                             QStringLiteral("artnet.universe == 2 && artnet.opcode == artdmx")});
         QCOMPARE(r.exitCode, 0);
-        const QJsonObject o = QJsonDocument::fromJson(r.out).object();
+        const QJsonObject o = r.json();
         QCOMPARE(o.value(QStringLiteral("format")).toString(), QStringLiteral("tlog"));
         QCOMPARE(o.value(QStringLiteral("total")).toInt(), 16);
         QCOMPARE(o.value(QStringLiteral("matched")).toInt(), 3);
@@ -121,9 +98,7 @@ private slots:
         r = talu({QStringLiteral("log"), capture, QStringLiteral("--filter"), QStringLiteral("talu.dir == out"),
                   QStringLiteral("--export"), QStringLiteral("csv"), QStringLiteral("-o"), csv});
         QCOMPARE(r.exitCode, 0);
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll().count('\n'), 4); // header and three sends
+        QCOMPARE(TestFiles::read(csv).count('\n'), 4); // header and three sends
         // pcapng -> filtered .tlog -> the same lines as filtering the original.
         const QString tlog = m_dir.filePath(QStringLiteral("dmx.tlog"));
         const QString dmx = QStringLiteral("artnet.opcode == artdmx");
@@ -160,14 +135,8 @@ private slots:
 
     void damagedFileWarns()
     {
-        QFile in(m_sample);
-        QVERIFY(in.open(QIODevice::ReadOnly));
-        const QByteArray cut = in.readAll().left(32 + 296 * 3 + 10);
-        const QString path = m_dir.filePath(QStringLiteral("cut.tlog"));
-        QFile out(path);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(cut);
-        out.close();
+        const QString path =
+            TestFiles::write(m_dir.filePath(QStringLiteral("cut.tlog")), TestFiles::read(m_sample).left(32 + 296 * 3 + 10));
         const Run r = talu({QStringLiteral("log"), path});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.out.count('\n'), 3);

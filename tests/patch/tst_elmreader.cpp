@@ -2,7 +2,6 @@
 #include "patch/elmgeometry.h"
 #include "patch/elmreader.h"
 #include "patch/patchkeys.h"
-#include "patch/patchloader.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -74,7 +73,6 @@ private slots:
     void skippedFixtures();
     void failures_data();
     void failures();
-    void loaderSniffsElm();
 };
 
 void TestElmReader::pixelTypes_data()
@@ -84,33 +82,22 @@ void TestElmReader::pixelTypes_data()
     QTest::addColumn<int>("secondAddress");
     QTest::addColumn<QStringList>("warnings");
 
-    QTest::newRow("RGB") << "RGB"
-                         << "123000" << 3 << QStringList();
-    QTest::newRow("RBG") << "RBG"
-                         << "132000" << 3 << QStringList();
-    QTest::newRow("GRB") << "GRB"
-                         << "213000" << 3 << QStringList();
-    QTest::newRow("lower case") << "grb"
-                                << "213000" << 3 << QStringList();
-    QTest::newRow("RGBW") << "RGBW"
-                          << "123400" << 4 << QStringList();
-    QTest::newRow("GRBW") << "GRBW"
-                          << "213400" << 4 << QStringList();
-    QTest::newRow("RGBA") << "RGBA"
-                          << "123000" << 4
-                          << QStringList{QStringLiteral(
-                                 "Color channels the tester cannot show yet were ignored: A (RGBA)")};
-    QTest::newRow("RGBAW") << "RGBAW"
-                           << "123040" << 5
-                           << QStringList{QStringLiteral(
-                                  "Color channels the tester cannot show yet were ignored: A (RGBAW)")};
-    QTest::newRow("RGB16") << "RGB16"
-                           << "102030" << 6
-                           << QStringList{QStringLiteral(
-                                  "1 fixture(s) use 16-bit LED types (RGB16); the monitor shows "
-                                  "the high byte of each color only.")};
-    QTest::newRow("missing type is RGB") << ""
-                                         << "123000" << 3 << QStringList();
+    const auto ignored = [](const char *type) {
+        return QStringList{QStringLiteral("Color channels the tester cannot show yet were ignored: A (%1)")
+                               .arg(QLatin1String(type))};
+    };
+    QTest::newRow("RGB") << "RGB" << "123000" << 3 << QStringList();
+    QTest::newRow("RBG") << "RBG" << "132000" << 3 << QStringList();
+    QTest::newRow("GRB") << "GRB" << "213000" << 3 << QStringList();
+    QTest::newRow("lower case") << "grb" << "213000" << 3 << QStringList();
+    QTest::newRow("RGBW") << "RGBW" << "123400" << 4 << QStringList();
+    QTest::newRow("GRBW") << "GRBW" << "213400" << 4 << QStringList();
+    QTest::newRow("RGBA") << "RGBA" << "123000" << 4 << ignored("RGBA");
+    QTest::newRow("RGBAW") << "RGBAW" << "123040" << 5 << ignored("RGBAW");
+    QTest::newRow("RGB16") << "RGB16" << "102030" << 6
+                           << QStringList{QStringLiteral("1 fixture(s) use 16-bit LED types (RGB16); the monitor "
+                                                         "shows the high byte of each color only.")};
+    QTest::newRow("missing type is RGB") << "" << "123000" << 3 << QStringList();
 }
 
 void TestElmReader::pixelTypes()
@@ -141,39 +128,21 @@ void TestElmReader::universes_data()
     QTest::addColumn<QStringList>("wiring");
     QTest::addColumn<QStringList>("warnings");
 
-    QTest::newRow("packed, fits") << "2"
-                                  << "0"
-                                  << "0"
-                                  << "3" << QStringList{"2:0", "2:3", "2:6"} << QStringList();
+    QTest::newRow("packed, fits") << "2" << "0" << "0" << "3" << QStringList{"2:0", "2:3", "2:6"} << QStringList();
     QTest::newRow("packed, boundary between pixels")
-        << "0"
-        << "506"
-        << "0"
-        << "3" << QStringList{"0:506", "0:509", "1:0"} << QStringList();
+        << "0" << "506" << "0" << "3" << QStringList{"0:506", "0:509", "1:0"} << QStringList();
     QTest::newRow("packed, pixel split")
-        << "0"
-        << "508"
-        << "0"
-        << "3" << QStringList{"0:508", "0:511", "1:2"}
-        << QStringList{QStringLiteral(
-               "1 fixture(s) have a pixel split across a universe boundary; its channels in the "
-               "next universe are not shown.")};
-    QTest::newRow("break every 2") << "5"
-                                   << "9"
-                                   << "2"
-                                   << "5" << QStringList{"5:9", "5:12", "6:0", "6:3", "7:0"} << QStringList();
+        << "0" << "508" << "0" << "3" << QStringList{"0:508", "0:511", "1:2"}
+        << QStringList{QStringLiteral("1 fixture(s) have a pixel split across a universe boundary; its channels "
+                                      "in the next universe are not shown.")};
+    QTest::newRow("break every 2")
+        << "5" << "9" << "2" << "5" << QStringList{"5:9", "5:12", "6:0", "6:3", "7:0"} << QStringList();
     QTest::newRow("break after too many")
-        << "0"
-        << "507"
-        << "2"
-        << "2" << QStringList{"0:507", "0:510"}
-        << QStringList{
-               QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 "
-                              "are not shown.")};
-    QTest::newRow("last Port-Address") << "32767"
-                                       << "0"
-                                       << "0"
-                                       << "2" << QStringList{"32767:0", "32767:3"} << QStringList();
+        << "0" << "507" << "2" << "2" << QStringList{"0:507", "0:510"}
+        << QStringList{QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels beyond "
+                                      "512 are not shown.")};
+    QTest::newRow("last Port-Address")
+        << "32767" << "0" << "0" << "2" << QStringList{"32767:0", "32767:3"} << QStringList();
 }
 
 void TestElmReader::universes()
@@ -385,25 +354,6 @@ void TestElmReader::failures()
     QVERIFY(!r.ok);
     QVERIFY(r.patch.groups.isEmpty());
     QCOMPARE(r.error.untranslatedText(), error);
-}
-
-void TestElmReader::loaderSniffsElm()
-{
-    QTemporaryDir dir;
-    const QByteArray bytes = writeElmXml(makeElmDemo());
-    for (const char *name : {"a.ELM", "b@@2026-01-02 10h00m.elmbackup", "c.txt"}) {
-        const QString path = dir.filePath(QString::fromLatin1(name));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
-        QCOMPARE(sniffPatchFormat(path), PatchFormat::Elm);
-        const PatchLoadResult r = loadPatch(path);
-        QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
-        QCOMPARE(r.patch.sourcePath, path);
-    }
-    const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("gone.elm")));
-    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.elm\": ")));
 }
 
 QTEST_GUILESS_MAIN(TestElmReader)

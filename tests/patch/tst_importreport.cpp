@@ -1,4 +1,5 @@
 #include "patch/importreport.h"
+#include "testfiles.h"
 
 #include <QCryptographicHash>
 #include <QStandardPaths>
@@ -45,19 +46,8 @@ PatchLoadResult failed()
     return r;
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(bytes);
-    return path;
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
+using TestFiles::read;
+using TestFiles::write;
 
 } // namespace
 
@@ -103,7 +93,7 @@ void TestImportReport::layout()
     QFETCH(QString, block);
     QTemporaryDir dir;
     const QByteArray bytes("<madrix_patch/>\n");
-    const QString source = writeFile(dir.filePath(QStringLiteral("wall.mpz")), bytes);
+    const QString source = write(dir.filePath(QStringLiteral("wall.mpz")), bytes);
     const QString logs = dir.filePath(QStringLiteral("logs"));
     QVERIFY(QDir().mkpath(logs));
 
@@ -111,7 +101,7 @@ void TestImportReport::layout()
     QVERIFY2(r.ok, qPrintable(r.error));
     QVERIFY(!r.reused);
     QCOMPARE(r.folder, QDir(logs).filePath(QStringLiteral("2026-03-14_12-30-05")));
-    QCOMPARE(readFile(QDir(r.folder).filePath(QStringLiteral("wall.mpz"))), bytes);
+    QCOMPARE(read(QDir(r.folder).filePath(QStringLiteral("wall.mpz"))), bytes);
 
     const QString fileHash =
         QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
@@ -133,7 +123,7 @@ void TestImportReport::layout()
                                       fileHash, resultLine) +
                              block + QStringLiteral("\n--- In the interface language (English) ---\n\n") +
                              block;
-    const QByteArray report = readFile(QDir(r.folder).filePath(QStringLiteral("report.txt")));
+    const QByteArray report = read(QDir(r.folder).filePath(QStringLiteral("report.txt")));
     QVERIFY(report.startsWith("\xEF\xBB\xBF"));
     QCOMPARE(QString::fromUtf8(report.mid(3)), expected);
 }
@@ -141,7 +131,7 @@ void TestImportReport::layout()
 void TestImportReport::sameLoadReusesItsFolder()
 {
     QTemporaryDir dir;
-    const QString source = writeFile(dir.filePath(QStringLiteral("a.elm")), "<console appVersion=\"1\"/>");
+    const QString source = write(dir.filePath(QStringLiteral("a.elm")), "<console appVersion=\"1\"/>");
     const QString logs = dir.path();
     const ImportReportResult first =
         writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon);
@@ -156,14 +146,14 @@ void TestImportReport::sameLoadReusesItsFolder()
         writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
     QVERIFY(!other.reused);
     QVERIFY(other.folder != first.folder);
-    writeFile(source, "<console appVersion=\"2\"/>");
+    write(source, "<console appVersion=\"2\"/>");
     QVERIFY(!writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon).reused);
 }
 
 void TestImportReport::languageDoesNotChangeTheFingerprint()
 {
     QTemporaryDir dir;
-    const QString source = writeFile(dir.filePath(QStringLiteral("wall.mpz")), "x");
+    const QString source = write(dir.filePath(QStringLiteral("wall.mpz")), "x");
     const ImportReportResult english =
         writeImportReport(dir.path(), source, warned(), QStringLiteral("English"), kNoon);
     ShoutingTranslator shouting;
@@ -178,7 +168,7 @@ void TestImportReport::languageDoesNotChangeTheFingerprint()
     QVERIFY(loud.reused);
     QCOMPARE(loud.folder, english.folder);
     const QString text =
-        QString::fromUtf8(readFile(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
+        QString::fromUtf8(read(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
     QVERIFY(text.contains(QStringLiteral("Warnings:\n  1. 2 fixture(s) are incomplete")));
     QVERIFY(text.contains(
         QStringLiteral("--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE "
@@ -191,7 +181,7 @@ void TestImportReport::foldersWithinOneSecondCount()
     QStringList names;
     for (int i = 0; i < 3; ++i) {
         const QString source =
-            writeFile(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
+            write(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
         const QString logs = dir.filePath(QStringLiteral("logs"));
         QDir().mkpath(logs);
         const ImportReportResult r =
@@ -209,13 +199,13 @@ void TestImportReport::unreadableSource()
     const ImportReportResult r =
         writeImportReport(dir.path(), source, failed(), QStringLiteral("English"), kNoon);
     QVERIFY(r.ok);
-    const QString text = QString::fromUtf8(readFile(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
+    const QString text = QString::fromUtf8(read(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
     QVERIFY(text.contains(QStringLiteral("\nSHA-256:   -\n")));
     QVERIFY(text.contains(QStringLiteral("\nCopy:      not saved - the source could not be read: ")));
     QCOMPARE(QDir(r.folder).entryList(QDir::Files), QStringList{QStringLiteral("report.txt")});
 
     // A logs folder that cannot be made is a failure with the folder named.
-    const QString blocker = writeFile(dir.filePath(QStringLiteral("file")), "x");
+    const QString blocker = write(dir.filePath(QStringLiteral("file")), "x");
     const ImportReportResult bad =
         writeImportReport(blocker, source, failed(), QStringLiteral("English"), kNoon);
     QVERIFY(!bad.ok);
@@ -228,7 +218,7 @@ void TestImportReport::copyStaysInsideTheFolder()
 {
     QTemporaryDir dir;
     QDir().mkpath(dir.filePath(QStringLiteral("deep/er")));
-    const QString source = writeFile(dir.filePath(QStringLiteral("deep/er/report.txt")), "not a report");
+    const QString source = write(dir.filePath(QStringLiteral("deep/er/report.txt")), "not a report");
     const QString logs = dir.filePath(QStringLiteral("logs"));
     QDir().mkpath(logs);
     const ImportReportResult r =
@@ -237,7 +227,7 @@ void TestImportReport::copyStaysInsideTheFolder()
     QVERIFY(r.ok);
     QCOMPARE(QDir(r.folder).entryList(QDir::Files, QDir::Name),
              (QStringList{QStringLiteral("report.txt"), QStringLiteral("source-report.txt")}));
-    QVERIFY(readFile(QDir(r.folder).filePath(QStringLiteral("report.txt"))).startsWith("\xEF\xBB\xBF"));
+    QVERIFY(read(QDir(r.folder).filePath(QStringLiteral("report.txt"))).startsWith("\xEF\xBB\xBF"));
     QCOMPARE(QDir(logs).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
 }
 
@@ -251,7 +241,7 @@ void TestImportReport::logsFolderFallsBack()
     QCOMPARE(QDir(good).entryList(QDir::Files).size(), 0); // the probe is gone again
 
     // Beside the program is a file, not a folder: the per-user folder is used.
-    const QString blocked = writeFile(dir.filePath(QStringLiteral("blocked")), "x") + QStringLiteral("/logs");
+    const QString blocked = write(dir.filePath(QStringLiteral("blocked")), "x") + QStringLiteral("/logs");
     QCOMPARE(importLogsFolder(blocked, perUser), perUser);
     QVERIFY(QFileInfo(perUser).isDir());
     QVERIFY(importLogsFolder(blocked, blocked).isEmpty());

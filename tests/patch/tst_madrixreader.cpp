@@ -2,7 +2,7 @@
 #include "patch/gzipinflate.h"
 #include "patch/madrixreader.h"
 #include "patch/patchkeys.h"
-#include "patch/patchloader.h"
+#include "testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -101,7 +101,6 @@ private slots:
     void hostileXmlIsBounded();
     void largePatchReadsAsInOnePass_data();
     void largePatchReadsAsInOnePass();
-    void loaderSniffsMadrix();
 };
 
 void TestMadrixReader::mapping_data()
@@ -407,16 +406,8 @@ void TestMadrixReader::plainAndGzipReadAlike()
     const QByteArray xml = writeMadrixXml(s);
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    const QString plainPath = dir.filePath(QStringLiteral("plain.mpz"));
-    const QString gzipPath = dir.filePath(QStringLiteral("packed.mpz"));
-    QFile plain(plainPath);
-    QVERIFY(plain.open(QIODevice::WriteOnly));
-    plain.write(xml);
-    plain.close();
-    QFile packed(gzipPath);
-    QVERIFY(packed.open(QIODevice::WriteOnly));
-    packed.write(gzipCompress(xml));
-    packed.close();
+    const QString plainPath = TestFiles::write(dir.filePath(QStringLiteral("plain.mpz")), xml);
+    const QString gzipPath = TestFiles::write(dir.filePath(QStringLiteral("packed.mpz")), gzipCompress(xml));
 
     const PatchLoadResult a = readMadrixPatch(plainPath);
     const PatchLoadResult b = readMadrixPatch(gzipPath);
@@ -545,28 +536,6 @@ void TestMadrixReader::largePatchReadsAsInOnePass()
             QCOMPARE(a.at(t).fixtures.at(f).leds.first().address,
                      b.at(t).fixtures.at(f).leds.first().address);
         }
-    }
-}
-
-void TestMadrixReader::loaderSniffsMadrix()
-{
-    QTemporaryDir dir;
-    const QByteArray xml = writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T"))));
-    const struct
-    {
-        const char *name;
-        QByteArray bytes;
-    } files[] = {{"a.MPZ", xml}, {"b.xml", xml}, {"c.bin", gzipCompress(xml)}};
-    for (const auto &f : files) {
-        const QString path = dir.filePath(QString::fromLatin1(f.name));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(f.bytes);
-        file.close();
-        QCOMPARE(sniffPatchFormat(path), PatchFormat::Madrix);
-        const PatchLoadResult r = loadPatch(path);
-        QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
-        QCOMPARE(r.patch.sourceKind, SourceKind::Madrix);
     }
 }
 

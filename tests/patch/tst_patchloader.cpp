@@ -1,6 +1,9 @@
 #include "cli/demopatch.h"
+#include "cli/elmsample.h"
+#include "cli/madrixsample.h"
 #include "patch/patchloader.h"
 #include "patch/tpatchwriter.h"
+#include "testfiles.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -13,7 +16,8 @@ class TestPatchLoader : public QObject
 private slots:
     void sniffing_data();
     void sniffing();
-    void nativeLoadThroughEntryPoint();
+    void loadThroughEntryPoint_data();
+    void loadThroughEntryPoint();
 };
 
 void TestPatchLoader::sniffing_data()
@@ -46,33 +50,48 @@ void TestPatchLoader::sniffing()
     QFETCH(int, format);
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    QString path = dir.filePath(name.isEmpty() ? QStringLiteral("absent.tpatch") : name);
-    if (!name.isEmpty()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(head);
-    }
+    const QString path = dir.filePath(name.isEmpty() ? QStringLiteral("absent.tpatch") : name);
+    QVERIFY(name.isEmpty() || !TestFiles::write(path, head).isEmpty());
     QCOMPARE(int(sniffPatchFormat(path)), format);
 }
 
-void TestPatchLoader::nativeLoadThroughEntryPoint()
+// Whole generated files of each kind, under names that do not give them away.
+void TestPatchLoader::loadThroughEntryPoint_data()
 {
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("demo.tpatch"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(writeTPatch(makeDemoPatch()));
-    file.close();
-    const PatchLoadResult r = loadPatch(path);
-    QVERIFY(r.ok);
-    QCOMPARE(r.patch.sourcePath, path);
-    QCOMPARE(r.patch.sourceKind, SourceKind::Native);
-    QCOMPARE(r.patch.formatLabel, QStringLiteral("Torvane MOX patch (.tpatch)"));
-    QCOMPARE(r.patch.projectName, QStringLiteral("Harbour Hall demo"));
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("format");
+    const QString madrix = QStringLiteral("MADRIX 5 patch (.mpz)"), elm = QStringLiteral("ENTTEC ELM project (.elm)");
+    const QByteArray xml = writeMadrixXml(makeMadrixMatrix(20, 5));
+    QTest::newRow("native") << "demo.tpatch" << writeTPatch(makeDemoPatch()) << int(SourceKind::Native)
+                            << "Torvane MOX patch (.tpatch)";
+    QTest::newRow("madrix upper-case extension") << "a.MPZ" << xml << int(SourceKind::Madrix) << madrix;
+    QTest::newRow("madrix xml") << "b.xml" << xml << int(SourceKind::Madrix) << madrix;
+    QTest::newRow("madrix gzip") << "c.bin" << gzipCompress(xml) << int(SourceKind::Madrix) << madrix;
+    const QByteArray project = writeElmXml(makeElmDemo());
+    QTest::newRow("elm upper-case extension") << "a.ELM" << project << int(SourceKind::Elm) << elm;
+    QTest::newRow("elm backup") << "b@@2026-01-02 10h00m.elmbackup" << project << int(SourceKind::Elm) << elm;
+    QTest::newRow("elm content") << "c.txt" << project << int(SourceKind::Elm) << elm;
+}
 
-    const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("nothing.tpatch")));
+void TestPatchLoader::loadThroughEntryPoint()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, kind);
+    QFETCH(QString, format);
+    QTemporaryDir dir;
+    const QString path = TestFiles::write(dir.filePath(name), bytes);
+    const PatchLoadResult r = loadPatch(path);
+    QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
+    QCOMPARE(r.patch.sourcePath, path);
+    QCOMPARE(int(r.patch.sourceKind), kind);
+    QCOMPARE(r.patch.formatLabel, format);
+
+    const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("gone.") + QFileInfo(name).suffix()));
     QVERIFY(!missing.ok);
-    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"nothing.tpatch\"")));
+    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.")));
 }
 
 QTEST_GUILESS_MAIN(TestPatchLoader)

@@ -1,4 +1,3 @@
-#include "cli/demopatch.h"
 #include "patch/gridplacement.h"
 #include "patch/patchkeys.h"
 #include "patch/pixellayout.h"
@@ -88,7 +87,6 @@ private slots:
     void freePositions();
     void badInput_data();
     void badInput();
-    void demoPatch();
 };
 
 void TestPixelLayout::noLayoutNoPixels()
@@ -484,18 +482,6 @@ void TestPixelLayout::badInput()
             QVERIFY(std::isfinite(c.x()) && std::isfinite(c.y()));
     }
     QVERIFY(std::isfinite(l.sceneRect.width()) && std::isfinite(l.sceneRect.height()));
-}
-
-void TestPixelLayout::demoPatch()
-{
-    // The bundled demo must show without overlaps: every fixture is drawn, rings are round.
-    const PatchData demo = makeDemoPatch();
-    const PixelLayout l = buildPixelLayout(demo);
-    const PatchCounts counts = countPatch(demo);
-    QCOMPARE(l.drawablePixelCount(), counts.pixels);
-    QCOMPARE(l.pixels.size(), counts.pixels + counts.kinetics);
-    QVERIFY(l.warnings.isEmpty());
-    QCOMPARE(l.zRange.max, 1);
 }
 
 QTEST_GUILESS_MAIN(TestPixelLayout)

@@ -6,6 +6,7 @@
 #include "cli/gpsrecordingmaker.h"
 #include "patch/frameorder.h"
 #include "patch/patchdata.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,13 +79,7 @@ inline QByteArray fileBytes(const TPatch::PatchData &p, int group, qint64 frames
     return gpsRecordingBytes(spec(p, group, frames), pattern());
 }
 
-inline QString write(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size())
-        return {};
-    return path;
-}
+using TestFiles::write;
 
 // Offset of record r (counted over the whole file) in a file of uniform records.
 inline qsizetype recordOffset(qint64 record)

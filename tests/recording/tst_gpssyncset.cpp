@@ -18,7 +18,6 @@ private slots:
     void controllerUniverseFieldPlaysOnItsPortAddress();
     void timestampDifferenceAtFrame();
     void autoFillKeepsUnmatchedPathsAndPathChangesUnload();
-    void notArmedWithoutEveryFile();
     void aSetOfOne();
 
 private:
@@ -37,6 +36,14 @@ private:
         return paths;
     }
 
+    // A fresh set of the patch's groups, loaded from these paths.
+    const GpsVerification &load(GpsSyncSet &set, const QStringList &paths)
+    {
+        set.setGroups(m_patch);
+        set.setPaths(paths);
+        return set.load(&m_patch);
+    }
+
     std::unique_ptr<QTemporaryDir> m_dir;
     TPatch::PatchData m_patch = GpsTest::patch();
 };
@@ -52,10 +59,7 @@ void TestGpsSyncSet::armsOnTheShortestFile()
     QStringList paths = writeAll();
     paths[1] = writeGroup(1, fileBytes(m_patch, 1, kFrames - 3));
     GpsSyncSet set;
-    set.setGroups(m_patch);
-    set.setPaths(paths);
-    const GpsVerification &v = set.load(&m_patch);
-    QCOMPARE(v.failures, 1); // the lengths differ, and the set is armed all the same
+    QCOMPARE(load(set, paths).failures, 1); // the lengths differ, and the set is armed all the same
     QVERIFY(set.isLoaded());
     QCOMPARE(set.frameCount(), kFrames - 3);
     QCOMPARE(set.frame(kFrames - 4).size(), 6);
@@ -66,9 +70,7 @@ void TestGpsSyncSet::armsOnTheShortestFile()
 void TestGpsSyncSet::frameServesEveryGroupInOrder()
 {
     GpsSyncSet set;
-    set.setGroups(m_patch);
-    set.setPaths(writeAll());
-    set.load(&m_patch);
+    load(set, writeAll());
     const QVector<GpsFrameRecord> frame = set.frame(7);
     QVector<quint16> universes;
     for (const GpsFrameRecord &r : frame)
@@ -89,9 +91,7 @@ void TestGpsSyncSet::controllerUniverseFieldPlaysOnItsPortAddress()
     s.universes[1] = 0x202; // what the controller writes into the GPS record
     paths[0] = writeGroup(0, gpsRecordingBytes(s, pattern()));
     GpsSyncSet set;
-    set.setGroups(m_patch);
-    set.setPaths(paths);
-    QCOMPARE(set.load(&m_patch).failures, 0);
+    QCOMPARE(load(set, paths).failures, 0);
     QCOMPARE(set.frame(0).at(1).portAddress, quint16(0x22));
     QCOMPARE(set.universes(), QVector<quint16>({1, 3, 4, 5, 6, 0x22}));
 }
@@ -105,9 +105,7 @@ void TestGpsSyncSet::timestampDifferenceAtFrame()
     paths[2] = writeGroup(2, roof);
     GpsSyncSet set;
     QCOMPARE(set.timestampDifferenceAt(0), 0); // nothing loaded
-    set.setGroups(m_patch);
-    set.setPaths(paths);
-    set.load(&m_patch);
+    load(set, paths);
     QCOMPARE(set.timestampDifferenceAt(11), 0);
     QCOMPARE(set.timestampDifferenceAt(12), 2);
     QCOMPARE(set.timestampDifferenceAt(13), 0);
@@ -137,25 +135,11 @@ void TestGpsSyncSet::autoFillKeepsUnmatchedPathsAndPathChangesUnload()
     QVERIFY(set.frame(0).isEmpty());
 }
 
-void TestGpsSyncSet::notArmedWithoutEveryFile()
-{
-    QStringList paths = writeAll();
-    paths[0].clear();
-    GpsSyncSet set;
-    set.setGroups(m_patch);
-    set.setPaths(paths);
-    set.load(&m_patch);
-    QVERIFY(!set.isLoaded());
-    QVERIFY(set.frame(0).isEmpty());
-}
-
 void TestGpsSyncSet::aSetOfOne()
 {
     m_patch.groups.remove(1, 2);
     GpsSyncSet set;
-    set.setGroups(m_patch);
-    set.setPaths({writeGroup(0, fileBytes(m_patch, 0))});
-    const GpsVerification &v = set.load(&m_patch);
+    const GpsVerification &v = load(set, {writeGroup(0, fileBytes(m_patch, 0))});
     QCOMPARE(v.failures + v.warnings, 0);
     QCOMPARE(v.summary.untranslatedText(),
              QStringLiteral("1 group(s) - 20 frames - structure and sync verified"));

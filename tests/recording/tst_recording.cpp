@@ -1,6 +1,7 @@
 #include "patch/patchdata.h"
 #include "recording/gpsmetadatablock.h"
 #include "recording/recording.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -86,9 +87,7 @@ class TestRecording : public QObject
     QString write(const QString &name, const QByteArray &bytes)
     {
         const QString path = m_dir.filePath(name);
-        QFile f(path);
-        f.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        f.write(bytes);
+        TestFiles::write(path, bytes);
         return path;
     }
 
@@ -179,27 +178,21 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("error");
-        QTest::newRow("empty") << QByteArray()
-                               << QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
-        QTest::newRow("19 bytes") << artDmx(1, 0).left(19)
-                                  << QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
-        QTest::newRow("random") << QByteArray::fromHex(
-                                       "8f3c11d2e4a07b55c3e91f0d2a6b7c8d9e0f1a2b3c4d5e6f708192a3b4")
-                                << QStringLiteral(
-                                       "\"bad.tpx\" does not start with an Art-Net or KEL DMX record. It "
-                                       "is not a Torvane recording, or it is damaged.");
+        const QString tooSmall = QStringLiteral("\"bad.tpx\" is too small to contain a single record.");
+        const QString notDmx = QStringLiteral("\"bad.tpx\" does not start with an Art-Net or KEL DMX record. It "
+                                              "is not a Torvane recording, or it is damaged.");
+        const QString noRecords = QStringLiteral("\"bad.tpx\" contains no usable DMX records.");
+        QTest::newRow("empty") << QByteArray() << tooSmall;
+        QTest::newRow("19 bytes") << artDmx(1, 0).left(19) << tooSmall;
+        QTest::newRow("random") << QByteArray::fromHex("8f3c11d2e4a07b55c3e91f0d2a6b7c8d9e0f1a2b3c4d5e6f708192a3b4")
+                                << notDmx;
         QByteArray wrongOp = artDmx(1);
         wrongOp[9] = 0x20; // ArtPoll, not ArtDmx
-        QTest::newRow("not ArtDmx") << wrongOp
-                                    << QStringLiteral(
-                                           "\"bad.tpx\" does not start with an Art-Net or KEL DMX "
-                                           "record. It is not a Torvane recording, or it is damaged.");
-        QTest::newRow("length past the end")
-            << artDmx(1, 100).left(60) << QStringLiteral("\"bad.tpx\" contains no usable DMX records.");
+        QTest::newRow("not ArtDmx") << wrongOp << notDmx;
+        QTest::newRow("length past the end") << artDmx(1, 100).left(60) << noRecords;
         QByteArray kelTooShort = kGoldenKel;
         kelTooShort[29] = char(0xFF); // 255 slots announced, 3 present
-        QTest::newRow("KEL length past the end")
-            << kelTooShort << QStringLiteral("\"bad.tpx\" contains no usable DMX records.");
+        QTest::newRow("KEL length past the end") << kelTooShort << noRecords;
     }
 
     void errors()
@@ -220,16 +213,12 @@ private slots:
 
     void openErrors()
     {
-        Recording rec;
-        auto result = rec.load(m_dir.filePath(QStringLiteral("missing.tpx")));
-        QVERIFY(!result.ok);
-        QVERIFY(
-            result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"missing.tpx\": ")));
         QDir(m_dir.path()).mkdir(QStringLiteral("folder.tpx"));
-        result = rec.load(m_dir.filePath(QStringLiteral("folder.tpx")));
-        QVERIFY(!result.ok);
-        QVERIFY(
-            result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"folder.tpx\": ")));
+        for (const char *name : {"missing.tpx", "folder.tpx"}) {
+            const auto result = Recording().load(m_dir.filePath(QLatin1String(name)));
+            QVERIFY(!result.ok);
+            QVERIFY(result.error.untranslatedText().startsWith(QStringLiteral("Could not open \"%1\": ").arg(QLatin1String(name))));
+        }
     }
 
     void smallestRecord()
@@ -248,29 +237,21 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<int>("records");
         QTest::addColumn<QStringList>("warnings");
+        const auto stopped = [](int at, int of, int usable) {
+            return QStringList{QStringLiteral("Stopped parsing at byte %1 of %2 - the file is truncated or contains "
+                                              "a record this reader does not understand. %3 record(s) were usable.")
+                                   .arg(at)
+                                   .arg(of)
+                                   .arg(usable)};
+        };
         const QByteArray three = sequence({1, 2, 3});
         QTest::newRow("one stray byte") << three + "x" << 3 << QStringList();
         QTest::newRow("two stray bytes") << three + "xy" << 3 << QStringList();
-        QTest::newRow("three stray bytes")
-            << three + "xyz" << 3
-            << QStringList{
-                   QStringLiteral("Stopped parsing at byte 72 of 75 - the file is truncated or contains a "
-                                  "record this reader does not understand. 3 record(s) were usable.")};
-        QTest::newRow("record cut short")
-            << three + artDmx(4).left(21) << 3
-            << QStringList{
-                   QStringLiteral("Stopped parsing at byte 72 of 93 - the file is truncated or contains a "
-                                  "record this reader does not understand. 3 record(s) were usable.")};
-        QTest::newRow("KEL after plain")
-            << three + kGoldenKel << 3
-            << QStringList{
-                   QStringLiteral("Stopped parsing at byte 72 of 107 - the file is truncated or contains "
-                                  "a record this reader does not understand. 3 record(s) were usable.")};
+        QTest::newRow("three stray bytes") << three + "xyz" << 3 << stopped(72, 75, 3);
+        QTest::newRow("record cut short") << three + artDmx(4).left(21) << 3 << stopped(72, 93, 3);
+        QTest::newRow("KEL after plain") << three + kGoldenKel << 3 << stopped(72, 107, 3);
         QTest::newRow("garbage in the middle")
-            << sequence({1, 1}) + QByteArray(30, 'z') + sequence({1, 1}) << 2
-            << QStringList{
-                   QStringLiteral("Stopped parsing at byte 48 of 126 - the file is truncated or contains "
-                                  "a record this reader does not understand. 2 record(s) were usable.")};
+            << sequence({1, 1}) + QByteArray(30, 'z') + sequence({1, 1}) << 2 << stopped(48, 126, 2);
     }
 
     void walkStops()
@@ -324,35 +305,20 @@ private slots:
         QTest::addColumn<int>("recordsPerFrame");
         QTest::addColumn<int>("frames");
         QTest::addColumn<QStringList>("warnings");
-        const QString trailing2 =
-            QStringLiteral("2 trailing record(s) do not form a complete frame and are ignored.");
+        const auto mismatch = [](int period) {
+            return QStringList{QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
+                                              "record(s) per frame in a fixed order, but the file repeats every %1. "
+                                              "Playback will follow the file and map records by universe number, "
+                                              "which cannot separate devices that share a universe.")
+                                   .arg(period)};
+        };
         QTest::newRow("matches with a partial frame")
-            << sequence({1, 2, 3, 1, 2, 3, 1, 2}) << true << 3 << 2 << QStringList{trailing2};
+            << sequence({1, 2, 3, 1, 2, 3, 1, 2}) << true << 3 << 2
+            << QStringList{QStringLiteral("2 trailing record(s) do not form a complete frame and are ignored.")};
         QTest::newRow("matches exactly") << sequence({1, 2, 3, 1, 2, 3}) << true << 3 << 2 << QStringList();
-        QTest::newRow("other layout")
-            << sequence({1, 2, 1, 2}) << false << 2 << 2
-            << QStringList{
-                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
-                                  "record(s) per frame in a "
-                                  "fixed order, but the file repeats every 2. Playback will follow the file "
-                                  "and map records by "
-                                  "universe number, which cannot separate devices that share a universe.")};
-        QTest::newRow("shorter than one frame")
-            << sequence({1, 2}) << false << 2 << 1
-            << QStringList{
-                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
-                                  "record(s) per frame in a "
-                                  "fixed order, but the file repeats every 2. Playback will follow the file "
-                                  "and map records by "
-                                  "universe number, which cannot separate devices that share a universe.")};
-        QTest::newRow("wrong trailing record")
-            << sequence({1, 2, 3, 1, 2, 3, 1, 3}) << false << 8 << 1
-            << QStringList{
-                   QStringLiteral("This recording does not match the loaded patch: the patch expects 3 "
-                                  "record(s) per frame in a "
-                                  "fixed order, but the file repeats every 8. Playback will follow the file "
-                                  "and map records by "
-                                  "universe number, which cannot separate devices that share a universe.")};
+        QTest::newRow("other layout") << sequence({1, 2, 1, 2}) << false << 2 << 2 << mismatch(2);
+        QTest::newRow("shorter than one frame") << sequence({1, 2}) << false << 2 << 1 << mismatch(2);
+        QTest::newRow("wrong trailing record") << sequence({1, 2, 3, 1, 2, 3, 1, 3}) << false << 8 << 1 << mismatch(8);
     }
 
     void patchMatch()
@@ -407,11 +373,7 @@ private slots:
         // A reference whose timestamp would lie past the end of the file.
         QCOMPARE(rec.timestampOf(RecordRef{qint64(bytes.size()) - 1, 2, 0, 18}), quint16(0));
         QVERIFY(rec.dataOf(RecordRef{qint64(bytes.size()) - 1, 2, 0, 18}).isEmpty());
-    }
 
-    void universesSorted()
-    {
-        Recording rec;
         QVERIFY(rec.load(write(QStringLiteral("sorted.tpx"), sequence({0x0203, 7, 0x0100, 7}))).ok);
         QCOMPARE(rec.universes(), (QVector<quint16>{7, 0x0100, 0x0203}));
     }

@@ -1,9 +1,7 @@
+#include "clirunner.h"
 #include "recording/recording.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -17,19 +15,13 @@ class TestRecordingCommand : public QObject
 
     static int run(const QStringList &args, QByteArray *out = nullptr)
     {
-        QProcess p;
-        p.start(QStringLiteral(TALU_CLI_PATH), args);
-        if (!p.waitForFinished(60'000))
-            return -1;
+        const TestCli::Run r = TestCli::run(args);
         if (out)
-            *out = p.readAllStandardOutput();
-        return p.exitCode();
+            *out = r.out;
+        return r.exitCode;
     }
 
-    static QString example(const char *name)
-    {
-        return QStringLiteral(TALU_SOURCE_DIR "/examples/") + QLatin1String(name);
-    }
+    static QString example(const char *name) { return TestCli::example(QLatin1String(name)); }
 
 private slots:
     void demoRecordingMatchesDemoPatch()

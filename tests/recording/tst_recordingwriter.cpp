@@ -1,5 +1,6 @@
 #include "recording/recording.h"
 #include "recording/recordingwriter.h"
+#include "testfiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,12 +9,7 @@
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    f.open(QIODevice::ReadOnly);
-    return f.readAll();
-}
+using TestFiles::read;
 
 QByteArray dmx(int count, char value = 0x11)
 {
@@ -48,7 +44,7 @@ private slots:
                                                         "0002"   // length 2, big-endian
                                                         "ff80"   // DMX slots
                                                         "0000"); // timestamp of frame 0
-        QCOMPARE(readAll(path), expected);
+        QCOMPARE(read(path), expected);
         QCOMPARE(w.recordsWritten(), 1);
         QCOMPARE(w.framesWritten(), 1);
         QCOMPARE(w.bytesAppended(), 22);
@@ -74,7 +70,7 @@ private slots:
                                 "0003"                 // length 3
                                 "010203"               // DMX slots
                                 "0000");               // timestamp
-        QCOMPARE(readAll(path), expected);
+        QCOMPARE(read(path), expected);
         QCOMPARE(RecordingWriter::header(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"), 5, 3),
                  expected.left(30));
     }
@@ -93,7 +89,7 @@ private slots:
         QVERIFY(w.write(1, dmx(600)));
         QVERIFY(w.write(1, QByteArray())); // empty data: nothing happens
         w.close();
-        const QByteArray bytes = readAll(path);
+        const QByteArray bytes = read(path);
         QCOMPARE(bytes.size(), 18 + 512 + 2);
         QCOMPARE(bytes.mid(16, 2), QByteArray::fromHex("0200"));
         QCOMPARE(w.recordsWritten(), 1);
@@ -168,7 +164,7 @@ private slots:
             for (int i = 0; i < 4; ++i)
                 w.write(quint16(1 + i % 2), dmx(10));
         }
-        const QByteArray before = readAll(path);
+        const QByteArray before = read(path);
         RecordingWriter w;
         QVERIFY(w.open(path, 40, 2));
         QCOMPARE(w.sizeAtOpen(), before.size());
@@ -179,7 +175,7 @@ private slots:
         w.close();
         QCOMPARE(w.bytesAppended(), before.size());
         QCOMPARE(w.framesWritten(), 2);
-        const QByteArray after = readAll(path);
+        const QByteArray after = read(path);
         QVERIFY(after.startsWith(before));
         Recording rec;
         QVERIFY(rec.load(path).ok);
@@ -216,7 +212,7 @@ private slots:
         QVERIFY(w.open(first, 40, 0));
         w.write(1, dmx(4));
         QVERIFY(w.open(freshPath(), 40, 0));
-        QCOMPARE(readAll(first).size(), 24);
+        QCOMPARE(read(first).size(), 24);
         QCOMPARE(w.recordsWritten(), 0);
     }
 
