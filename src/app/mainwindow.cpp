@@ -2,8 +2,10 @@
 
 #include "panels/patchbar.h"
 #include "panels/placeholderpanel.h"
+#include "packetlog/packetjournal.h"
 #include "panels/statuslabel.h"
 #include "patch/patchloader.h"
+#include "recording/playbackclock.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -51,20 +53,29 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     setWindowTitle(QStringLiteral("Torvane TALU"));
     resize(1420, 880);
 
+    m_clock = new PlaybackClock(this);
+    m_journal = std::make_unique<PacketLog::PacketJournal>();
+
     buildCentralWidget();
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
     retranslateUi();
 
     loadSettings();
     applySourceMode();
+
+    // The clock runs in its own thread: its signals arrive queued.
+    connect(m_clock, &PlaybackClock::tick, this, &MainWindow::onFrameTick, Qt::QueuedConnection);
+    connect(m_clock, &PlaybackClock::finished_, this, &MainWindow::onPlaybackFinished, Qt::QueuedConnection);
+    connect(m_clock, &PlaybackClock::performanceWarning, this, &MainWindow::onPerformanceWarning,
+            Qt::QueuedConnection);
 }
 
 MainWindow::~MainWindow()
 {
     saveSettings();
-    // The playback clock, the node and the live recording file join this
-    // teardown when they arrive: clock stopped, node stopped, file closed,
-    // in that order, before the members are freed.
+    m_clock->stop();
+    // The node and the live recording file join this teardown with the
+    // broadcast workflow: node stopped, then file closed, before the members go.
 }
 
 void MainWindow::buildCentralWidget()
@@ -348,4 +359,24 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
 {
     m_kept.playbackLastPath = path;
     showStatus([] { return tr("Recording playback is not available in this build yet."); }, 5000);
+}
+
+void MainWindow::onFrameTick(qint64 frame)
+{
+    m_currentFrame = frame;
+    // Frames are shown by the playback workflow; acknowledging keeps the
+    // clock's one-outstanding-tick back-pressure moving meanwhile.
+    m_clock->acknowledge();
+}
+
+void MainWindow::onPlaybackFinished()
+{
+    m_clock->stop();
+    showStatus([] { return tr("Reached the end of the recording."); }, 0);
+}
+
+void MainWindow::onPerformanceWarning(double measuredFps)
+{
+    const qint64 fps = std::max<qint64>(1, qRound64(measuredFps));
+    showStatus([fps] { return tr("Sustaining about %1 fps.").arg(fps); }, 8000);
 }

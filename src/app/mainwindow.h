@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <memory>
 
 class QCheckBox;
 class QGroupBox;
@@ -17,6 +18,10 @@ class QStackedWidget;
 class QTabWidget;
 class PatchBar;
 class PlaceholderPanel;
+class PlaybackClock;
+namespace PacketLog {
+class PacketJournal;
+}
 
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
@@ -53,6 +58,9 @@ public slots:
     void onUploadRequested(const QString &path);
     void onRecordingLoadRequested(const QString &path);
     void onModeChanged();
+    void onFrameTick(qint64 frame);
+    void onPlaybackFinished();
+    void onPerformanceWarning(double measuredFps);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -103,6 +111,12 @@ private:
     QString m_statusText;
     int m_statusTimeoutMs = 0;
     QElapsedTimer m_statusShown;
+
+    // Paces playback on its own thread; owned through the QObject tree, stopped
+    // and joined in the destructor before anything else goes.
+    PlaybackClock *m_clock = nullptr;
+    std::unique_ptr<PacketLog::PacketJournal> m_journal;
+    qint64 m_currentFrame = 0;
 
     TPatch::PatchData m_patch;
     bool m_patchLoaded = false;

@@ -2,6 +2,7 @@
 
 #include "cli/clicommon.h"
 #include "cli/demopatch.h"
+#include "cli/demorecording.h"
 #include "cli/elmsample.h"
 #include "cli/madrixsample.h"
 #include "cli/samplelog.h"
@@ -43,6 +44,14 @@ struct SampleKind
 
 const SampleKind kKinds[] = {
     {"demo-patch", [](const QString &, const GenerateOptions &, bool *) { return std::optional(TPatch::writeTPatch(makeDemoPatch())); }},
+    {"demo-recording",
+     [](const QString &out, const GenerateOptions &, bool *ok) {
+         QString error;
+         *ok = writeDemoRecording(out, &error);
+         if (!*ok)
+             printErr(QStringLiteral("talu-cli generate: cannot write %1: %2").arg(out, error));
+         return std::optional<QByteArray>();
+     }},
     {"sample-log",
      [](const QString &, const GenerateOptions &, bool *) {
          const std::vector<PacketLog::PacketRecord> records = makeSampleLog();
@@ -67,6 +76,9 @@ int runGenerateCommand(const QStringList &arguments)
         "\n"
         "Kinds:\n"
         "  demo-patch OUT     the bundled demo installation as .tpatch (examples/demo.tpatch)\n"
+        "  demo-recording OUT four seconds at 30 fps of the demo patch as .tpx (examples/demo.tpx): a colour\n"
+        "                     wave across the groups, the ball curtain's winches moving; one record per\n"
+        "                     torvoverse per frame, in the patch's order\n"
         "  sample-log OUT     a short node session as a packet log (.tlog): polls, replies, ArtDmx, failed sends\n"
         "  madrix-patch OUT   a MADRIX 5 patch (.mpz): a square LED wall of --fixtures single-pixel RGB\n"
         "                     fixtures (default 256), 170 per universe from universe 1; gzip unless --plain\n"

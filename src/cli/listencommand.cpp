@@ -4,6 +4,7 @@
 #include "cli/clicommon.h"
 #include "patch/frameorder.h"
 #include "patch/patchloader.h"
+#include "recording/recordingwriter.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <memory>
 #include <csignal>
 #include <cstdio>
 
@@ -76,7 +78,7 @@ QString statusLine(const NodeStats &s)
         .arg(s.sequenceErrors);
 }
 
-QJsonObject reportJson(const ArtNetNode &node, double seconds)
+QJsonObject reportJson(const ArtNetNode &node, double seconds, const RecordingWriter *writer)
 {
     const NodeStats s = node.stats();
     QJsonArray universes;
@@ -84,7 +86,7 @@ QJsonObject reportJson(const ArtNetNode &node, double seconds)
         universes.append(int(u));
     const bool kel = node.sourceFlavour() == ArtNet::DmxFlavour::Kel;
     // Counters leave as doubles: exact up to 2^53 packets, far past any run.
-    return QJsonObject{
+    QJsonObject report{
         {QStringLiteral("dmxPackets"), double(s.dmxPackets)},
         {QStringLiteral("artPolls"), double(s.artPolls)},
         {QStringLiteral("ignored"), double(s.ignored)},
@@ -95,6 +97,15 @@ QJsonObject reportJson(const ArtNetNode &node, double seconds)
         {QStringLiteral("kelDeviceName"), node.kelDeviceName()},
         {QStringLiteral("seconds"), seconds},
     };
+    if (writer) {
+        report.insert(QStringLiteral("frames"), double(writer->framesWritten()));
+        report.insert(QStringLiteral("records"), double(writer->recordsWritten()));
+        report.insert(QStringLiteral("bytes"), double(writer->bytesAppended()));
+        report.insert(QStringLiteral("path"), writer->path());
+        report.insert(QStringLiteral("recordError"),
+                      writer->failed() ? QJsonValue(writer->failureReason()) : QJsonValue());
+    }
+    return report;
 }
 
 } // namespace
@@ -116,6 +127,11 @@ int runListenCommand(const QStringList &arguments)
         "packetsPerSecond (the last full one-second rate window; 0 before one has passed), universes (the\n"
         "Port-Addresses received, ascending, as numbers), source (\"Art-Net\" or \"KEL\", the flavour of the latest\n"
         "DMX packet), kelDeviceName (the KEL device name, or empty), seconds (how long the node ran).\n"
+        "With --record, every received ArtDmx is appended to FILE (a .tpx recording; an existing file is\n"
+        "continued, never truncated) with frames at --fps (default 40); with --patch, frames hold the patch's\n"
+        "records per frame, otherwise they are cut by universe repetition and pauses over 7 ms. The JSON then\n"
+        "adds frames, records, bytes (appended this run), path, and recordError (why recording stopped, or null).\n"
+        "A failed write stops the recording and is reported as \"Recording stopped: REASON\"; the node runs on.\n"
         "Exit codes: 0 ran and stopped, 1 the socket could not be bound or the patch was refused, 2 usage error."));
     const QCommandLineOption address(QStringLiteral("address"),
                                      QStringLiteral("Local IPv4 address to listen on (default: any)."),
@@ -138,8 +154,13 @@ int runListenCommand(const QStringList &arguments)
     const QCommandLineOption seconds(QStringLiteral("seconds"),
                                      QStringLiteral("Run time in seconds (default: until interrupted)."),
                                      QStringLiteral("n"));
+    const QCommandLineOption record(QStringLiteral("record"),
+                                    QStringLiteral("Append every received ArtDmx to this .tpx recording."),
+                                    QStringLiteral("file"));
+    const QCommandLineOption fps(QStringLiteral("fps"), QStringLiteral("Frame rate of the recording (1 to 240, default 40)."),
+                                 QStringLiteral("n"), QStringLiteral("40"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
-    for (const QCommandLineOption &o : {address, port, universes, patch, shortName, longName, seconds, json})
+    for (const QCommandLineOption &o : {address, port, universes, patch, shortName, longName, seconds, record, fps, json})
         parser.addOption(o);
     bool helpShown = false;
     if (!parseCommandLine(parser, QStringLiteral("listen"), arguments, &helpShown))
@@ -172,7 +193,12 @@ int runListenCommand(const QStringList &arguments)
             return usageError(QStringLiteral("\"%1\" is not a number of seconds.").arg(parser.value(seconds)));
     }
 
+    const int frameRate = parser.value(fps).toInt(&ok);
+    if (!ok || frameRate < 1 || frameRate > 240)
+        return usageError(QStringLiteral("\"%1\" is not a frame rate (1 to 240).").arg(parser.value(fps)));
+
     QVector<quint16> advertised;
+    int recordsPerFrame = 0;
     if (parser.isSet(universes) && parser.isSet(patch))
         return usageError(QStringLiteral("give --universes or --patch, not both."));
     if (parser.isSet(universes)) {
@@ -186,6 +212,7 @@ int runListenCommand(const QStringList &arguments)
             return ExitRefused;
         }
         advertised = patchUniverses(loaded.patch);
+        recordsPerFrame = TPatch::expectedFrameOrder(loaded.patch).recordsPerFrame();
     }
 
     NodeIdentity identity;
@@ -204,6 +231,29 @@ int runListenCommand(const QStringList &arguments)
                      .arg(portValue)
                      .arg(node.lastError()));
         return ExitRefused;
+    }
+    std::unique_ptr<RecordingWriter> writer;
+    if (parser.isSet(record)) {
+        writer = std::make_unique<RecordingWriter>();
+        if (!writer->open(parser.value(record), frameRate, recordsPerFrame)) {
+            printErr(QStringLiteral("talu-cli listen: cannot record to %1: %2")
+                         .arg(parser.value(record), writer->lastError()));
+            node.stop();
+            return ExitRefused;
+        }
+        RecordingWriter *w = writer.get();
+        // The writer takes the flavour of the packet in hand: the node reports the latest source.
+        QObject::connect(&node, &ArtNetNode::dmxReceived, w,
+                         [w, &node](quint16 portAddress, const QByteArray &data, const QHostAddress &) {
+                             if (!w->isOpen())
+                                 return;
+                             w->setSource(RecordFlavour(node.sourceFlavour()), node.kelDeviceName());
+                             w->write(portAddress, data);
+                         });
+        QObject::connect(w, &RecordingWriter::writeFailed, w, [w](const QString &reason) {
+            printErr(QStringLiteral("Recording stopped: %1").arg(reason));
+            w->close();
+        });
     }
     printErr(QStringLiteral("Listening on %1:%2, advertising %3 universe(s).")
                  .arg(shownAddress)
@@ -239,15 +289,24 @@ int runListenCommand(const QStringList &arguments)
     ran.start();
     QCoreApplication::exec();
     node.stop();
+    if (writer && writer->isOpen())
+        writer->close();
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
 
     if (parser.isSet(json)) {
-        printJson(reportJson(node, double(ran.elapsed()) / 1000.0));
+        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer.get()));
     } else {
         if (live)
             std::fputs("\n", stdout);
         printOut(statusLine(node.stats()) + QStringLiteral(", %1 ignored").arg(node.stats().ignored));
+        if (writer) {
+            printOut(QStringLiteral("recorded %1 records in %2 frames (%3 bytes) to %4")
+                         .arg(writer->recordsWritten())
+                         .arg(writer->framesWritten())
+                         .arg(writer->bytesAppended())
+                         .arg(writer->path()));
+        }
     }
     return ExitOk;
 }

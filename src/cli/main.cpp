@@ -5,6 +5,7 @@
 #include "cli/logcommand.h"
 #include "cli/listencommand.h"
 #include "cli/patchcommand.h"
+#include "cli/recordingcommand.h"
 
 #include <QCoreApplication>
 
@@ -22,10 +23,12 @@ struct Command
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"colour", "evaluate one pixel's colour from DMX bytes, as the monitor does", runColourCommand},
-    {"generate", "write sample files (the demo patch) made by our generators", runGenerateCommand},
     {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
+    {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
+    {"generate", "write sample files (demo patch and recording, MADRIX, ELM, packet log) from our generators",
+     runGenerateCommand},
 };
 
 QString usage()

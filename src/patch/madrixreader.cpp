@@ -33,7 +33,7 @@ enum class Tag
     Root,
     FixtureList,
     Fixture,
-    Specification,
+    FixtureSpecification,
     Settings,
     Channel,
     GroupList
@@ -369,7 +369,7 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
             continue;
         }
         const Tag parent = stack.last();
-        if (parent == Tag::Specification) {
+        if (parent == Tag::FixtureSpecification) {
             QString *target = isNamed(xml, "protocol_type")       ? &fixture.protocolType
                               : isNamed(xml, "fixture_name")      ? &fixture.fixtureName
                               : isNamed(xml, "display_name")      ? &fixture.displayName
@@ -416,7 +416,7 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
         if (parent == Tag::Fixture) {
             if (isNamed(xml, "fixture_specification")) {
                 fixture.hasSpecification = true;
-                stack.append(Tag::Specification);
+                stack.append(Tag::FixtureSpecification);
             } else if (isNamed(xml, "fixture_settings")) {
                 fixture.hasSettings = true;
                 stack.append(Tag::Settings);

@@ -1,4 +1,5 @@
 #include "artnet/artnetpacket.h"
+#include "recording/recording.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -40,6 +41,7 @@ class TestListenCommand : public QObject
 private slots:
     void answersPollAndReportsJson();
     void advertisesThePatchUniverses();
+    void recordsEveryDmxPacket();
     void refusals_data();
     void refusals();
 };
@@ -106,6 +108,49 @@ void TestListenCommand::advertisesThePatchUniverses()
     const QRegularExpressionMatch m = count.match(err);
     QVERIFY2(m.hasMatch(), qPrintable(err));
     QVERIFY(m.captured(1).toInt() > 0);
+}
+
+void TestListenCommand::recordsEveryDmxPacket()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("take.tpx"));
+    QProcess listen;
+    listen.start(QStringLiteral(TALU_CLI_PATH),
+                 {QStringLiteral("listen"), QStringLiteral("--seconds"), QStringLiteral("3"), QStringLiteral("--json"),
+                  QStringLiteral("--port"), QStringLiteral("6461"), QStringLiteral("--record"), path,
+                  QStringLiteral("--fps"), QStringLiteral("25")});
+    QByteArray err;
+    QVERIFY2(waitForListening(listen, &err), err.constData());
+
+    // Eight frames of three universes; a repeated universe starts the next frame.
+    QUdpSocket controller;
+    QVERIFY(controller.bind(kLoopback, 0));
+    for (int frame = 0; frame < 8; ++frame) {
+        for (quint16 universe : {1, 2, 3})
+            controller.writeDatagram(buildDmx(universe, quint8(frame + 1), QByteArray(512, char(frame * 16 + universe))),
+                                     kLoopback, 6461);
+        QTest::qWait(20);
+    }
+    QVERIFY(listen.waitForFinished(10000));
+    QCOMPARE(listen.exitCode(), 0);
+    const QJsonObject report = QJsonDocument::fromJson(listen.readAllStandardOutput()).object();
+    QCOMPARE(report.value(QStringLiteral("dmxPackets")).toInt(), 24);
+    QCOMPARE(report.value(QStringLiteral("records")).toInt(), 24);
+    QCOMPARE(report.value(QStringLiteral("frames")).toInt(), 8);
+    QCOMPARE(report.value(QStringLiteral("bytes")).toInt(), 24 * (18 + 512 + 2));
+    QCOMPARE(report.value(QStringLiteral("path")).toString(), path);
+    QVERIFY(report.value(QStringLiteral("recordError")).isNull());
+
+    // What was recorded reads back frame by frame, with the bytes that were sent.
+    Recording recording;
+    const RecordingLoadResult loaded = recording.load(path);
+    QVERIFY(loaded.ok);
+    QCOMPARE(recording.records().size(), 24);
+    QCOMPARE(recording.recordsPerFrame(), 3);
+    QCOMPARE(recording.frameCount(), 8);
+    const RecordRef last = recording.recordAt(7, 2);
+    QCOMPARE(last.universe, quint16(3));
+    QCOMPARE(recording.bytes().at(last.dataOffset), char(7 * 16 + 3));
 }
 
 void TestListenCommand::refusals_data()

@@ -1,0 +1,265 @@
+#include "recording/recording.h"
+#include "recording/recordingwriter.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+namespace {
+
+QByteArray readAll(const QString &path)
+{
+    QFile f(path);
+    f.open(QIODevice::ReadOnly);
+    return f.readAll();
+}
+
+QByteArray dmx(int count, char value = 0x11)
+{
+    return QByteArray(count, value);
+}
+
+} // namespace
+
+class TestRecordingWriter : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    int m_fileNumber = 0;
+
+    QString freshPath() { return m_dir.filePath(QStringLiteral("rec%1.tpx").arg(++m_fileNumber)); }
+
+private slots:
+    void goldenArtNetRecord()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 0));
+        QVERIFY(w.write(0x0102, QByteArray::fromHex("ff80")));
+        w.close();
+        const QByteArray expected = QByteArray::fromHex("4172742d4e657400" // "Art-Net\0"
+                                                        "0050"             // OpCode 0x5000, little-endian
+                                                        "000e"             // protocol version 14
+                                                        "00"               // sequence: always 0
+                                                        "00"               // physical
+                                                        "0201"   // Port-Address 0x0102: SubUni, then Net
+                                                        "0002"   // length 2, big-endian
+                                                        "ff80"   // DMX slots
+                                                        "0000"); // timestamp of frame 0
+        QCOMPARE(readAll(path), expected);
+        QCOMPARE(w.recordsWritten(), 1);
+        QCOMPARE(w.framesWritten(), 1);
+        QCOMPARE(w.bytesAppended(), 22);
+        QCOMPARE(w.fileSize(), 22);
+    }
+
+    void goldenKelRecord()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 0));
+        w.setSource(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"));
+        QVERIFY(w.write(5, QByteArray::fromHex("010203")));
+        w.close();
+        const QByteArray expected =
+            QByteArray::fromHex("0100"                 // device prefix
+                                "4b454c36532d4c4f4e47" // "KEL6S-LONG": the name cut to 10 bytes
+                                "4172742d4e657400"     // "Art-Net\0"
+                                "0053"                 // OpCode 0x5300
+                                "000e"                 // protocol version 14
+                                "0000"                 // sequence, physical
+                                "0500"                 // Port-Address 5
+                                "0003"                 // length 3
+                                "010203"               // DMX slots
+                                "0000");               // timestamp
+        QCOMPARE(readAll(path), expected);
+        QCOMPARE(RecordingWriter::header(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"), 5, 3),
+                 expected.left(30));
+    }
+
+    void shortNameIsZeroPadded()
+    {
+        const QByteArray h = RecordingWriter::header(RecordFlavour::Kel, QStringLiteral("AB"), 0, 0);
+        QCOMPARE(h.mid(2, 10), QByteArray("AB\0\0\0\0\0\0\0\0", 10));
+    }
+
+    void longPayloadIsCut()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 0));
+        QVERIFY(w.write(1, dmx(600)));
+        QVERIFY(w.write(1, QByteArray())); // empty data: nothing happens
+        w.close();
+        const QByteArray bytes = readAll(path);
+        QCOMPARE(bytes.size(), 18 + 512 + 2);
+        QCOMPARE(bytes.mid(16, 2), QByteArray::fromHex("0200"));
+        QCOMPARE(w.recordsWritten(), 1);
+    }
+
+    void framesByCount()
+    {
+        // With 3 records per frame the fourth record starts frame 2 whatever
+        // its universe; the stamp grows by the frame rate per frame, in thousandths.
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 3));
+        for (int i = 0; i < 153; ++i)
+            QVERIFY(w.write(quint16(i % 2), dmx(2)));
+        w.close();
+        QCOMPARE(w.framesWritten(), 51);
+        Recording rec;
+        QVERIFY(rec.load(path).ok);
+        const auto &records = rec.records();
+        QCOMPARE(records.size(), 153);
+        QCOMPARE(rec.timestampOf(records.at(3 * 24 + 2)), quint16(0)); // frame 24: 960
+        QCOMPARE(rec.timestampOf(records.at(3 * 25)), quint16(1));     // frame 25: 1000
+        QCOMPARE(rec.timestampOf(records.at(3 * 50)), quint16(2));     // frame 50: 2000
+    }
+
+    void framesByRepetition()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 100, 0));
+        for (int u : {1, 2, 3, 1, 2, 3, 1})
+            w.write(quint16(u), dmx(4));
+        QCOMPARE(w.framesWritten(), 2); // the third frame is still open
+        w.close();
+        QCOMPARE(w.framesWritten(), 3); // closing counts the partial frame
+        Recording rec;
+        QVERIFY(rec.load(path).ok);
+        QCOMPARE(rec.timestampOf(rec.records().at(2)), quint16(0));
+        QCOMPARE(rec.timestampOf(rec.records().at(3)), quint16(0)); // 100 / 1000
+        QCOMPARE(rec.timestampOf(rec.records().at(6)), quint16(0)); // 200 / 1000
+    }
+
+    void framesByPause()
+    {
+        RecordingWriter w;
+        QVERIFY(w.open(freshPath(), 40, 0));
+        w.write(1, dmx(4));
+        w.write(2, dmx(4));
+        QThread::msleep(9); // more than the 7 ms gap
+        w.write(3, dmx(4));
+        QCOMPARE(w.framesWritten(), 1);
+    }
+
+    void clampsOpenArguments()
+    {
+        RecordingWriter w;
+        QVERIFY(w.open(freshPath(), 1000, -4));
+        QCOMPARE(w.frameRate(), 240);
+        QCOMPARE(w.recordsPerFrame(), 0);
+        QCOMPARE(w.expectedRecordsPerFrame(), 0);
+        QVERIFY(w.open(freshPath(), 0, 5));
+        QCOMPARE(w.frameRate(), 1);
+        QCOMPARE(w.recordsPerFrame(), 5);
+    }
+
+    void appendsToExistingFile()
+    {
+        const QString path = freshPath();
+        {
+            RecordingWriter w;
+            QVERIFY(w.open(path, 40, 2));
+            for (int i = 0; i < 4; ++i)
+                w.write(quint16(1 + i % 2), dmx(10));
+        }
+        const QByteArray before = readAll(path);
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 2));
+        QCOMPARE(w.sizeAtOpen(), before.size());
+        QCOMPARE(w.fileSize(), before.size());
+        for (int i = 0; i < 4; ++i)
+            w.write(quint16(1 + i % 2), dmx(10, 0x22));
+        QCOMPARE(w.fileSize(), 2 * before.size());
+        w.close();
+        QCOMPARE(w.bytesAppended(), before.size());
+        QCOMPARE(w.framesWritten(), 2);
+        const QByteArray after = readAll(path);
+        QVERIFY(after.startsWith(before));
+        Recording rec;
+        QVERIFY(rec.load(path).ok);
+        QCOMPARE(rec.frameCount(), 4);
+        QCOMPARE(rec.dataOf(rec.recordAt(3, 1)), QByteArrayView(dmx(10, 0x22)));
+    }
+
+    void roundTripKel()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 30, 4));
+        w.setSource(RecordFlavour::Kel, QStringLiteral("Mirra"));
+        for (int f = 0; f < 60; ++f)
+            for (quint16 u : {0x10, 0x11, 0x12, 0x13})
+                w.write(u, dmx(512, char(f)));
+        w.close();
+        Recording rec;
+        const auto result = rec.load(path);
+        QVERIFY(result.ok);
+        QCOMPARE(rec.formatLabel(), QStringLiteral("KEL (Mirra)"));
+        QCOMPARE(rec.recordsPerFrame(), 4);
+        QCOMPARE(rec.frameCount(), 60);
+        QCOMPARE(rec.frameRecords(59).at(3).universe, quint16(0x13));
+        QCOMPARE(rec.dataOf(rec.recordAt(42, 0)).at(511), char(42));
+        QCOMPARE(rec.timestampOf(rec.recordAt(59, 3)), quint16(59 * 30 / 1000));
+        QCOMPARE(rec.parsedBytes(), w.bytesAppended());
+    }
+
+    void reopenClosesPreviousFile()
+    {
+        const QString first = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(first, 40, 0));
+        w.write(1, dmx(4));
+        QVERIFY(w.open(freshPath(), 40, 0));
+        QCOMPARE(readAll(first).size(), 24);
+        QCOMPARE(w.recordsWritten(), 0);
+    }
+
+    void openFailure()
+    {
+        RecordingWriter w;
+        QVERIFY(!w.open(m_dir.filePath(QStringLiteral("no/such/folder/x.tpx")), 40, 0));
+        QVERIFY(!w.lastError().isEmpty());
+        QVERIFY(!w.write(1, dmx(4)) || !w.isOpen());
+    }
+
+    void diskFullIsReported()
+    {
+        if (!QFile::exists(QStringLiteral("/dev/full")))
+            QSKIP("needs /dev/full");
+        RecordingWriter w;
+        QVERIFY(w.open(QStringLiteral("/dev/full"), 40, 1));
+        QSignalSpy failures(&w, &RecordingWriter::writeFailed);
+        bool ok = true;
+        for (int i = 0; i < 100 && ok; ++i)
+            ok = w.write(1, dmx(512));
+        QVERIFY(!ok);
+        QVERIFY(w.failed());
+        QVERIFY(!w.failureReason().isEmpty());
+        QVERIFY(!w.write(1, dmx(512)));
+        QCOMPARE(failures.size(), 1);
+        QCOMPARE(failures.at(0).at(0).toString(), w.failureReason());
+    }
+
+    void removedFileIsReported()
+    {
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 1));
+        w.write(1, dmx(4));
+        QVERIFY(QFile::remove(path));
+        QThread::msleep(1100); // the writer looks for its file at most once a second
+        w.write(1, dmx(4));
+        w.write(1, dmx(4));
+        QVERIFY(w.failed());
+        QCOMPARE(w.failureReason(), QStringLiteral("The file was removed or renamed while recording."));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecordingWriter)
+#include "tst_recordingwriter.moc"
