@@ -14,12 +14,16 @@ int fuzzFilter(const std::uint8_t *data, std::size_t size);
 int fuzzTlog(const std::uint8_t *data, std::size_t size);
 int fuzzPcap(const std::uint8_t *data, std::size_t size);
 int fuzzPcapng(const std::uint8_t *data, std::size_t size);
+int fuzzTpx(const std::uint8_t *data, std::size_t size);
+int fuzzTpxPatch(const std::uint8_t *data, std::size_t size);
+int fuzzGps(const std::uint8_t *data, std::size_t size);
 
 namespace {
 
 const FuzzTarget kTargets[] = {
     {"tpatch", fuzzTPatch}, {"mpz", fuzzMpz},   {"elm", fuzzElm},   {"artnet", fuzzArtNet},
     {"filter", fuzzFilter}, {"tlog", fuzzTlog}, {"pcap", fuzzPcap}, {"pcapng", fuzzPcapng},
+    {"tpx", fuzzTpx},       {"tpxpatch", fuzzTpxPatch}, {"gps", fuzzGps},
 };
 
 } // namespace

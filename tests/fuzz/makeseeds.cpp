@@ -9,12 +9,15 @@
 #include "packetlog/pcapngwriter.h"
 #include "packetlog/tlogfile.h"
 #include "patch/tpatchwriter.h"
+#include "recording/gpsmetadatablock.h"
+#include "recording/recordingwriter.h"
 
 #include <QBuffer>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -245,6 +248,56 @@ bool logSeeds(const QString &root)
            && writeSeed(root, "pcap", QStringLiteral("raw-ipv4.pcap"), pcapOf(pcapngOf(two), false, false, true));
 }
 
+// A few frames of three universes (Port-Addresses 0, 1, 2) of a few slots
+// each, through our own recording writer.
+QByteArray recordingOf(RecordFlavour flavour, int frames, int slotCount)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("seed.tpx"));
+    RecordingWriter writer;
+    if (!writer.open(path, 30, 3))
+        return {};
+    writer.setSource(flavour, QStringLiteral("KEL-7"));
+    for (int f = 0; f < frames; ++f)
+        for (quint16 u = 0; u < 3; ++u)
+            writer.write(u, QByteArray(slotCount, char(f * 16 + u)));
+    writer.close();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A GPS-Sync file: the block saying three records per frame, then the records.
+QByteArray gpsRecordingOf(const QByteArray &records, int frames, int slotCount, int header)
+{
+    GpsMetadataBlock block;
+    block.universeCount = 3;
+    block.frameCount = quint32(frames);
+    for (int i = 0; i < 3; ++i)
+        block.universeByteLength[size_t(i)] = quint16(header + slotCount + 2);
+    block.frameByteSize = 3u * quint64(header + slotCount + 2);
+    return block.toBytes() + records;
+}
+
+bool recordingSeeds(const QString &root)
+{
+    const QByteArray artnet = recordingOf(RecordFlavour::ArtNet, 4, 8);
+    const QByteArray kel = recordingOf(RecordFlavour::Kel, 3, 6);
+    const QByteArray gps = gpsRecordingOf(recordingOf(RecordFlavour::ArtNet, 3, 4), 3, 4, 18);
+    const QByteArray full = recordingOf(RecordFlavour::ArtNet, 1, 512);
+    if (artnet.isEmpty() || kel.isEmpty() || full.isEmpty())
+        return false;
+    bool ok = true;
+    for (const char *target : {"tpx", "tpxpatch"}) {
+        ok = ok && writeSeed(root, target, QStringLiteral("artnet.tpx"), artnet)
+             && writeSeed(root, target, QStringLiteral("kel.tpx"), kel)
+             && writeSeed(root, target, QStringLiteral("gps.tpx"), gps)
+             && writeSeed(root, target, QStringLiteral("full-universes.tpx"), full)
+             && writeSeed(root, target, QStringLiteral("trailing.tpx"), artnet.left(artnet.size() - 20));
+    }
+    return ok && writeSeed(root, "gps", QStringLiteral("three.block"), gps.left(GpsMetadataBlock::kSize))
+           && writeSeed(root, "gps", QStringLiteral("short.block"), gps.left(40));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -256,6 +309,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     const QString root = args.at(1);
-    const bool ok = tpatchSeeds(root) && patchSeeds(root) && artnetSeeds(root) && filterSeeds(root) && logSeeds(root);
+    const bool ok = tpatchSeeds(root) && patchSeeds(root) && artnetSeeds(root) && filterSeeds(root) && logSeeds(root)
+                    && recordingSeeds(root);
     return ok ? 0 : 1;
 }

@@ -14,6 +14,7 @@ private slots:
     void sniffing_data();
     void sniffing();
     void nativeLoadThroughEntryPoint();
+    void bytesLoadAsTheFileWould();
 };
 
 void TestPatchLoader::sniffing_data()
@@ -53,6 +54,8 @@ void TestPatchLoader::sniffing()
         file.write(head);
     }
     QCOMPARE(int(sniffPatchFormat(path)), format);
+    if (!name.isEmpty())
+        QCOMPARE(int(sniffPatchFormat(name, head)), format);
 }
 
 void TestPatchLoader::nativeLoadThroughEntryPoint()
@@ -73,6 +76,27 @@ void TestPatchLoader::nativeLoadThroughEntryPoint()
     const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("nothing.tpatch")));
     QVERIFY(!missing.ok);
     QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"nothing.tpatch\"")));
+}
+
+void TestPatchLoader::bytesLoadAsTheFileWould()
+{
+    // Content decides under a neutral name: MADRIX text is read as MADRIX, whatever the name says.
+    const QByteArray madrix("<madrix_patch version=\"0x05000000\"><fixture_list/></madrix_patch>");
+    const PatchLoadResult fromBytes = loadPatchData(madrix, QStringLiteral("show.tpatch"), QStringLiteral("/x/show.tpatch"));
+    QCOMPARE(fromBytes.patch.sourceKind, SourceKind::Madrix);
+    QCOMPARE(fromBytes.patch.sourcePath, QStringLiteral("/x/show.tpatch"));
+    QVERIFY(!fromBytes.ok);
+    QVERIFY(fromBytes.error.untranslatedText().contains(QStringLiteral("\"show.tpatch\"")));
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("show.tpatch"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(madrix);
+    file.close();
+    const PatchLoadResult fromFile = loadPatch(path);
+    QCOMPARE(fromFile.patch.sourceKind, SourceKind::Madrix);
+    QCOMPARE(fromFile.error.untranslatedText(), fromBytes.error.untranslatedText());
 }
 
 QTEST_GUILESS_MAIN(TestPatchLoader)
