@@ -26,6 +26,11 @@ constexpr int kPortAddressCount = 32768;
 constexpr int kUniverseChannels = 512;
 // No real fixture comes near this; a larger count is a damaged file, not a reason to allocate.
 constexpr qint64 kMaxLedsPerFixture = 100000;
+// An ELM fixture is a count of LEDs, a few bytes whatever the count, so a
+// small file can ask for millions of them. Past this many in one project the
+// remaining fixtures are skipped: memory and time stay bounded whatever the
+// file says (a project this size is already thousands of universes).
+constexpr qint64 kMaxLedsPerProject = 500000;
 // Largest square drawn per LED, in stage pixels; closer LEDs get 80 % of their spacing.
 constexpr double kMaxPixelSize = 10.0;
 
@@ -56,6 +61,8 @@ struct Findings
     qint64 badUniverse = 0;
     qint64 incomplete = 0;
     qint64 sixteenBit = 0;
+    qint64 leds = 0;       // LEDs taken so far
+    qint64 overLimit = 0;  // fixtures skipped because the project already had kMaxLedsPerProject
 };
 
 struct LedType
@@ -278,6 +285,11 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
         ++findings.incomplete;
         return;
     }
+    if (findings.leds + leds > kMaxLedsPerProject) {
+        ++findings.overLimit;
+        return;
+    }
+    findings.leds += leds;
 
     // Channel of every LED. breakUniverseAfter 0 packs the channels and runs
     // on into the next universe at 512; N starts a fresh universe (at channel
@@ -443,6 +455,10 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
             {f.incomplete}));
+    if (f.overLimit > 0)
+        warnings.append(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) were skipped: the project has more than %2 LEDs."),
+            {f.overLimit, kMaxLedsPerProject}));
 }
 
 } // namespace

@@ -72,6 +72,7 @@ private slots:
     void curveAndLoop();
     void stagesAndTargets();
     void skippedFixtures();
+    void projectLedLimit();
     void failures_data();
     void failures();
     void loaderSniffsElm();
@@ -357,6 +358,19 @@ void TestElmReader::skippedFixtures()
             QStringLiteral("2 fixture(s) are incomplete in the file and were skipped."),
         }));
     QCOMPARE(countPatch(r.patch).fixtures, 1);
+}
+
+void TestElmReader::projectLedLimit()
+{
+    // A fixture is a count, so a few hundred bytes can ask for millions of LEDs:
+    // past 500,000 in the project the remaining fixtures are skipped.
+    ElmSampleFixture big;
+    big.leds = QStringLiteral("100000");
+    big.breakUniverseAfter = QStringLiteral("170");
+    const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({big, big, big, big, big, big, big})), kFile, kFile);
+    QVERIFY(r.ok);
+    QCOMPARE(countPatch(r.patch).pixels, 500000);
+    QVERIFY(warningTexts(r).contains(QStringLiteral("2 fixture(s) were skipped: the project has more than 500000 LEDs.")));
 }
 
 void TestElmReader::failures_data()
