@@ -1,5 +1,6 @@
 #include "patch/elmreader.h"
 
+#include "patch/boundedxml.h"
 #include "patch/elmgeometry.h"
 #include "patch/orderednames.h"
 
@@ -182,6 +183,10 @@ Parsed parseXml(const QByteArray &bytes)
             return parsed;
         }
         sawRoot = true;
+        if (path.size() >= kMaxXmlDepth) {
+            raiseXmlDepthError(xml);
+            break;
+        }
         path.append(xml.name().toString());
         const QXmlStreamAttributes a = xml.attributes();
         if (path.size() == 1) {
@@ -204,7 +209,7 @@ Parsed parseXml(const QByteArray &bytes)
             if (ok)
                 parsed.universeIps.insert(id, parseIp(a.value(QLatin1StringView("IP"))));
         } else if (path.size() > 2 && !(path.at(1) == QLatin1StringView("model"))) {
-            xml.skipCurrentElement(); // views, sequences, settings: not the patch
+            skipElement(xml, int(path.size())); // views, sequences, settings: not the patch
             path.removeLast();
         }
     }

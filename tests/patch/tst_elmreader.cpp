@@ -383,6 +383,12 @@ void TestElmReader::failures_data()
                                 << unreadable + QStringLiteral("the <console> root element is missing");
     QTest::newRow("cut off") << QByteArray("<console appVersion=\"1\">\r\n<model>")
                              << unreadable + QStringLiteral("Premature end of document. (line 2)");
+    QTest::newRow("nested too deep under model")
+        << QByteArray("<console appVersion=\"1\"><model>") + QByteArray("<a>").repeated(300)
+        << unreadable + QStringLiteral("elements are nested more than 256 deep (line 1)");
+    QTest::newRow("nested too deep in a view")
+        << QByteArray("<console appVersion=\"1\"><view><stage>") + QByteArray("<a>").repeated(300)
+        << unreadable + QStringLiteral("elements are nested more than 256 deep (line 1)");
     QTest::newRow("no stages") << QByteArray("<console version=\"1\" appVersion=\"1.0.0.673\"/>")
                                << QStringLiteral("\"club.elm\" contains no DMX fixtures that can be shown.");
     ElmSample onlyView; // nothing under model/stages: the decoy stages must not count
