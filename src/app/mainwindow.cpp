@@ -1,5 +1,9 @@
 #include "app/mainwindow.h"
 
+#include "monitor/pixeltexts.h"
+#include "monitor/widgets/dmxinspector.h"
+#include "monitor/widgets/led3dview.h"
+#include "monitor/widgets/ledmonitorview.h"
 #include "panels/patchbar.h"
 #include "panels/placeholderpanel.h"
 #include "packetlog/packetjournal.h"
@@ -12,6 +16,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QEvent>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -34,17 +39,8 @@ constexpr int kLeftColumnMaxWidth = 460;
 enum SourcePage { RecordedPage = 0, BroadcastPage = 1 };
 enum SideTab { GroupsTab = 0, PatchTab = 1, DmxTab = 2 };
 
-// Layout-ready pixels until the layout step exists: leds of fixtures that have a usable scene layout.
-qint64 drawablePixels(const TPatch::PatchData &patch)
-{
-    qint64 count = 0;
-    for (const auto &group : patch.groups)
-        for (const auto &torvoverse : group.torvoverses)
-            for (const auto &fixture : torvoverse.fixtures)
-                if (fixture.hasLayout)
-                    count += fixture.leds.size();
-    return count;
-}
+enum MonitorTab { View2DTab = 0, View3DTab = 1 };
+constexpr int kFrontPreset = 0;
 
 } // namespace
 
@@ -57,6 +53,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_journal = std::make_unique<PacketLog::PacketJournal>();
 
     buildCentralWidget();
+    wireMonitorBar();
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
     retranslateUi();
 
@@ -131,7 +128,8 @@ QWidget *MainWindow::buildLeftColumn()
     m_sideTabs = new QTabWidget(scroll);
     m_groupPanel = new PlaceholderPanel(QStringLiteral("GroupFilterPanel"), QStringLiteral("Group filter panel"));
     m_summaryPanel = new PlaceholderPanel(QStringLiteral("PatchSummaryPanel"), QStringLiteral("Patch summary panel"));
-    m_dmxInspector = new PlaceholderPanel(QStringLiteral("DmxInspector"), QStringLiteral("DMX inspector"));
+    m_dmxInspector = new DmxInspector;
+    m_dmxInspector->setObjectName(QStringLiteral("DmxInspector"));
     m_sideTabs->insertTab(GroupsTab, m_groupPanel, QString());
     m_sideTabs->insertTab(PatchTab, m_summaryPanel, QString());
     m_sideTabs->insertTab(DmxTab, m_dmxInspector, QString());
@@ -167,12 +165,94 @@ QWidget *MainWindow::buildRightArea()
 
     m_monitorTabs = new QTabWidget(area);
     m_monitorTabs->setObjectName(QStringLiteral("Monitor"));
-    m_view2d = new PlaceholderPanel(QStringLiteral("LedMonitorView"), QStringLiteral("2D monitor view"));
-    m_view3d = new PlaceholderPanel(QStringLiteral("Led3DView"), QStringLiteral("3D monitor view"));
+    m_view2d = new LedMonitorView;
+    m_view2d->setObjectName(QStringLiteral("LedMonitorView"));
+    m_view2d->setColours(&m_colours.colours());
+    m_view3d = new Led3DView;
+    m_view3d->setObjectName(QStringLiteral("Led3DView"));
     m_monitorTabs->insertTab(0, m_view2d, QString());
     m_monitorTabs->insertTab(1, m_view3d, QString());
     layout->addWidget(m_monitorTabs, 1);
     return area;
+}
+
+void MainWindow::wireMonitorBar()
+{
+    connect(m_fitButton, &QPushButton::clicked, this, &MainWindow::onFitToView);
+    connect(m_snapshotButton, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
+    connect(m_whiteCheck, &QCheckBox::toggled, this, [this](bool on) { m_colours.setWhiteEnabled(on); });
+    connect(m_axesCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
+    connect(m_fastDrawCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setFastDraw);
+    connect(m_autoOrbitCheck, &QCheckBox::toggled, this, [this](bool on) {
+        if (on)
+            m_view3d->startAutoOrbit();
+        else
+            m_view3d->stopAutoOrbit();
+    });
+    connect(m_view3d, &Led3DView::autoMovementStopped, this, [this] {
+        const QSignalBlocker block(m_autoOrbitCheck);
+        m_autoOrbitCheck->setChecked(false);
+    });
+    connect(m_frontButton, &QPushButton::clicked, this, [this] { m_view3d->setViewPreset(kFrontPreset); });
+    connect(m_resetButton, &QPushButton::clicked, m_view3d, &Led3DView::reset);
+    connect(m_view2d, &LedMonitorView::cellHovered, this, &MainWindow::onCellHovered);
+    connect(m_dmxInspector, &DmxInspector::universeChanged, this, &MainWindow::onInspectedUniverseChanged);
+}
+
+void MainWindow::pushMonitor()
+{
+    m_view2d->refresh();
+    m_view3d->setColours(m_colours.colours());
+    m_view3d->setKinetics(m_colours.kineticValues());
+    m_dmxInspector->setUniverseData(m_inspectedUniverse < 0 ? QByteArray()
+                                                            : m_colours.universeData(quint16(m_inspectedUniverse)));
+}
+
+void MainWindow::onFitToView()
+{
+    if (m_monitorTabs->currentIndex() == View3DTab)
+        m_view3d->fitCamera();
+    else
+        m_view2d->fitToView();
+}
+
+void MainWindow::onCellHovered(int pixelNumber)
+{
+    if (pixelNumber < 0 || pixelNumber >= m_colours.colours().size()) {
+        m_monitorHint->clear();
+        return;
+    }
+    m_monitorHint->setText(
+        PixelTexts::hoverHint(m_patch, m_layout, pixelNumber, m_colours.colours().at(pixelNumber)));
+}
+
+void MainWindow::onInspectedUniverseChanged(int portAddress)
+{
+    m_inspectedUniverse = portAddress;
+    m_dmxInspector->setUniverseData(portAddress < 0 ? QByteArray() : m_colours.universeData(quint16(portAddress)));
+}
+
+void MainWindow::onSaveSnapshot()
+{
+    const bool is3d = m_monitorTabs->currentIndex() == View3DTab;
+    const QFileInfo patchFile(m_patchPath);
+    const QString folder = !m_kept.lastSnapshotDir.isEmpty() ? m_kept.lastSnapshotDir
+                           : m_patchPath.isEmpty()           ? QString()
+                                                             : patchFile.absolutePath();
+    const QString proposed = QDir(folder).filePath(patchFile.completeBaseName()
+                                                   + (is3d ? QStringLiteral("_3d.png") : QStringLiteral("_2d.png")));
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save Monitor Snapshot"), proposed, tr("PNG Image (*.png)"));
+    if (path.isEmpty())
+        return;
+    const QImage image = is3d ? m_view3d->snapshot() : m_view2d->snapshot();
+    if (!image.save(path, "PNG")) {
+        QMessageBox::warning(this, tr("Snapshot Failed"), tr("Could not write %1.").arg(path));
+        return;
+    }
+    m_kept.lastSnapshotDir = QFileInfo(path).absolutePath();
+    showStatus([path] { return tr("Snapshot saved to %1").arg(path); }, 0);
+    saveSettings();
 }
 
 void MainWindow::retranslateUi()
@@ -192,6 +272,7 @@ void MainWindow::retranslateUi()
     m_sideTabs->setTabText(GroupsTab, tr("Groups"));
     m_sideTabs->setTabText(PatchTab, tr("Patch"));
     m_sideTabs->setTabText(DmxTab, tr("DMX"));
+    m_dmxInspector->retranslate();
 
     m_fitButton->setText(tr("Fit to view"));
     m_snapshotButton->setText(tr("Snapshot"));
@@ -277,6 +358,7 @@ void MainWindow::loadSettings()
     m_rememberedGpsPaths = v.gpsPaths;
     m_whiteCheck->setChecked(v.whiteChannels);
     m_fastDrawCheck->setChecked(v.fastDraw3D);
+    m_view3d->setFastDraw(m_fastDrawCheck->isChecked());
     m_monitorTabs->setCurrentIndex(v.viewTab);
     {
         // Restoring the tab is not a user's tab change: no tab-change handling.
@@ -336,7 +418,17 @@ void MainWindow::onUploadRequested(const QString &path)
     }
 
     m_patch = std::move(result.patch);
+    m_patchPath = path;
     m_patchLoaded = true;
+    m_layout = TPatch::buildPixelLayout(m_patch);
+    m_colours.setPatch(&m_layout.pixels);
+    m_view2d->setPatch(&m_patch, &m_layout);
+    m_view2d->setColours(&m_colours.colours());
+    m_view2d->fitToView();
+    m_view3d->setPatch(m_layout);
+    m_dmxInspector->setPixelLayout(&m_layout);
+    m_dmxInspector->setUniverses(QVector<quint16>(m_layout.portAddressPixels.keyBegin(), m_layout.portAddressPixels.keyEnd()));
+    pushMonitor();
     const QString fileName = QFileInfo(path).fileName();
     const qint64 warnings = result.warnings.size();
     if (warnings == 0) {
@@ -349,7 +441,7 @@ void MainWindow::onUploadRequested(const QString &path)
             1);
     }
     m_sideTabs->setCurrentIndex(PatchTab);
-    const qint64 drawn = drawablePixels(m_patch);
+    const qint64 drawn = m_layout.drawablePixelCount();
     showStatus([drawn] { return tr("%1 pixels drawn.").arg(drawn); }, 0);
     applySourceMode();
     saveSettings();

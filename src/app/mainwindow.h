@@ -1,7 +1,9 @@
 #pragma once
 
 #include "app/appsettings.h"
+#include "monitor/pixelcolourbuffer.h"
 #include "patch/patchdata.h"
+#include "patch/pixellayout.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -16,6 +18,9 @@ class QPushButton;
 class QRadioButton;
 class QStackedWidget;
 class QTabWidget;
+class DmxInspector;
+class Led3DView;
+class LedMonitorView;
 class PatchBar;
 class PlaceholderPanel;
 class PlaybackClock;
@@ -52,12 +57,18 @@ public:
     void openFiles(const QString &patchPath, const QString &recordingPath);
 
     bool isPatchLoaded() const { return m_patchLoaded; }
+    const TPatch::PixelLayout &pixelLayout() const { return m_layout; }
+    PixelColourBuffer &colourBuffer() { return m_colours; }
     const TPatch::PatchData &patch() const { return m_patch; }
 
 public slots:
     void onUploadRequested(const QString &path);
     void onRecordingLoadRequested(const QString &path);
     void onModeChanged();
+    void onCellHovered(int pixelNumber);
+    void onSaveSnapshot();
+    void onFitToView();
+    void onInspectedUniverseChanged(int portAddress);
     void onFrameTick(qint64 frame);
     void onPlaybackFinished();
     void onPerformanceWarning(double measuredFps);
@@ -71,6 +82,10 @@ private:
     QWidget *buildRightArea();
     void retranslateUi();
     void applySourceMode();
+    void wireMonitorBar();
+    // Hands the colour buffer's current lists to both views and the inspected
+    // universe's bytes to the inspector.
+    void pushMonitor();
 
     // Left column
     PatchBar *m_patchBar = nullptr;
@@ -85,7 +100,7 @@ private:
     QTabWidget *m_sideTabs = nullptr;
     PlaceholderPanel *m_groupPanel = nullptr;
     PlaceholderPanel *m_summaryPanel = nullptr;
-    PlaceholderPanel *m_dmxInspector = nullptr;
+    DmxInspector *m_dmxInspector = nullptr;
 
     // Right area
     QLabel *m_monitorHint = nullptr;
@@ -98,8 +113,8 @@ private:
     QPushButton *m_frontButton = nullptr;
     QPushButton *m_resetButton = nullptr;
     QTabWidget *m_monitorTabs = nullptr;
-    PlaceholderPanel *m_view2d = nullptr;
-    PlaceholderPanel *m_view3d = nullptr;
+    LedMonitorView *m_view2d = nullptr;
+    Led3DView *m_view3d = nullptr;
 
     // Values loaded for panels that do not exist yet; saved back unchanged.
     StoredSettings m_kept;
@@ -119,5 +134,10 @@ private:
     qint64 m_currentFrame = 0;
 
     TPatch::PatchData m_patch;
+    QString m_patchPath;
     bool m_patchLoaded = false;
+    // The views and the inspector point into these; replaced only on a patch load.
+    TPatch::PixelLayout m_layout;
+    PixelColourBuffer m_colours;
+    int m_inspectedUniverse = -1; // Port-Address shown in the DMX tab, -1 for none
 };

@@ -59,7 +59,9 @@ int usedChannels(const Torvoverse &t)
     return used + (used & 1);
 }
 
-QByteArray universeData(const Torvoverse &t, int group, double time)
+} // namespace
+
+QByteArray demoUniverseData(const Torvoverse &t, int group, double time)
 {
     QByteArray data(usedChannels(t), '\0');
     auto put = [&data](int channel, quint8 value) {
@@ -84,8 +86,6 @@ QByteArray universeData(const Torvoverse &t, int group, double time)
     return data;
 }
 
-} // namespace
-
 bool writeDemoRecording(const QString &path, QString *error)
 {
     const PatchData patch = makeDemoPatch();
@@ -103,7 +103,7 @@ bool writeDemoRecording(const QString &path, QString *error)
         const double time = frame / double(kDemoRecordingFps);
         for (const FrameSlot &slot : order.entries) {
             const Torvoverse &t = patch.groups.at(slot.groupIndex).torvoverses.at(slot.torvoverseIndex);
-            writer.write(slot.portAddress, universeData(t, slot.groupIndex, time));
+            writer.write(slot.portAddress, demoUniverseData(t, slot.groupIndex, time));
         }
     }
     writer.close();

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "patch/patchdata.h"
+
+#include <QByteArray>
 #include <QString>
 
 // The bundled demo recording (examples/demo.tpx): four seconds at 30 fps of
@@ -12,3 +15,7 @@ bool writeDemoRecording(const QString &path, QString *error);
 
 constexpr int kDemoRecordingFps = 30;
 constexpr int kDemoRecordingFrames = 120;
+
+// One torvoverse's DMX data in the demo animation at time (seconds): what
+// the demo recordings carry for it. group is its group's index.
+QByteArray demoUniverseData(const TPatch::Torvoverse &torvoverse, int group, double time);

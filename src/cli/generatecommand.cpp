@@ -1,6 +1,7 @@
 #include "cli/generatecommand.h"
 
 #include "cli/clicommon.h"
+#include "cli/demogpsset.h"
 #include "cli/demopatch.h"
 #include "cli/demorecording.h"
 #include "cli/elmsample.h"
@@ -52,6 +53,14 @@ const SampleKind kKinds[] = {
              printErr(QStringLiteral("talu-cli generate: cannot write %1: %2").arg(out, error));
          return std::optional<QByteArray>();
      }},
+    {"demo-gps",
+     [](const QString &out, const GenerateOptions &, bool *ok) {
+         QString error;
+         *ok = writeDemoGpsSet(out, &error);
+         if (!*ok)
+             printErr(QStringLiteral("talu-cli generate: cannot write %1").arg(error));
+         return std::optional<QByteArray>();
+     }},
     {"sample-log",
      [](const QString &, const GenerateOptions &, bool *) {
          const std::vector<PacketLog::PacketRecord> records = makeSampleLog();
@@ -79,6 +88,8 @@ int runGenerateCommand(const QStringList &arguments)
         "  demo-recording OUT four seconds at 30 fps of the demo patch as .tpx (examples/demo.tpx): a colour\n"
         "                     wave across the groups, the ball curtain's winches moving; one record per\n"
         "                     torvoverse per frame, in the patch's order\n"
+        "  demo-gps DIR       a GPS-Sync set for the demo patch (examples/gps/): one file per group,\n"
+        "                     demo_<Group>.tpx, two seconds at 40 fps with the 143-byte GPS block\n"
         "  sample-log OUT     a short node session as a packet log (.tlog): polls, replies, ArtDmx, failed sends\n"
         "  madrix-patch OUT   a MADRIX 5 patch (.mpz): a square LED wall of --fixtures single-pixel RGB\n"
         "                     fixtures (default 256), 170 per universe from universe 1; gzip unless --plain\n"

@@ -2,9 +2,11 @@
 #include "cli/colourcommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
+#include "cli/gpsverifycommand.h"
 #include "cli/logcommand.h"
 #include "cli/listencommand.h"
 #include "cli/patchcommand.h"
+#include "cli/rendercommand.h"
 #include "cli/recordingcommand.h"
 
 #include <QCoreApplication>
@@ -23,10 +25,13 @@ struct Command
 const Command kCommands[] = {
     {"patch", "load a patch and print its contents and warnings", runPatchCommand},
     {"colour", "evaluate one pixel's colour from DMX bytes, as the monitor does", runColourCommand},
+    {"render", "draw the 2D or 3D monitor picture of a patch (and a recorded frame) into a PNG file", runRenderCommand},
     {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
     {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
+    {"gps-verify", "verify a GPS-Sync set (one .tpx per group) against a patch, check by check",
+     runGpsVerifyCommand},
     {"generate", "write sample files (demo patch and recording, MADRIX, ELM, packet log) from our generators",
      runGenerateCommand},
 };

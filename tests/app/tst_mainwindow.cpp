@@ -1,10 +1,16 @@
 #include "app/appsettings.h"
 #include "app/mainwindow.h"
+#include "monitor/widgets/dmxinspector.h"
+#include "monitor/widgets/led3drenderer.h"
+#include "monitor/widgets/led3dview.h"
+#include "monitor/widgets/ledcanvasitem.h"
+#include "monitor/widgets/ledmonitorview.h"
 #include "panels/patchbar.h"
 #include "panels/statuslabel.h"
 
 #include <QCheckBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -47,6 +53,7 @@ private slots:
     void expiredStatusIsNotBroughtBack();
     void patchBarRefusesBlankPath();
     void loadingDemoPatchReports();
+    void monitorBarDrivesTheViews();
 };
 
 void TestMainWindow::initTestCase()
@@ -247,6 +254,64 @@ void TestMainWindow::loadingDemoPatchReports()
     QVERIFY(w.statusBar()->currentMessage().endsWith(QStringLiteral(" pixels drawn.")));
     QCOMPARE(openSettings()->value(SettingsKey::patchLastPath).toString(),
              QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"));
+}
+
+void TestMainWindow::monitorBarDrivesTheViews()
+{
+    {
+        StoredSettings stored;
+        stored.fastDraw3D = true;
+        auto s = openSettings();
+        writeStoredSettings(*s, stored, false);
+    }
+    MainWindow w;
+    auto *view2d = w.findChild<LedMonitorView *>();
+    auto *view3d = w.findChild<Led3DView *>();
+    auto *inspector = w.findChild<DmxInspector *>();
+    QVERIFY(view2d && view3d && inspector);
+    QVERIFY(view3d->fastDraw()); // the stored choice reaches the 3D view
+    auto check = [&w](const char *text) {
+        for (auto *c : w.findChildren<QCheckBox *>())
+            if (c->text() == QLatin1String(text))
+                return c;
+        return static_cast<QCheckBox *>(nullptr);
+    };
+    auto button = [&w](const char *text) {
+        for (auto *b : w.findChildren<QPushButton *>())
+            if (b->text() == QLatin1String(text))
+                return b;
+        return static_cast<QPushButton *>(nullptr);
+    };
+    check("Fast draw")->setChecked(false);
+    QVERIFY(!view3d->fastDraw());
+    check("Axes")->setChecked(true);
+    QVERIFY(view3d->renderer()->scene3d().showAxes());
+    check("White channels")->setChecked(true);
+    QVERIFY(w.colourBuffer().whiteEnabled());
+
+    w.openFiles(QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch"), QString());
+    QCOMPARE(view2d->canvas()->scene2d().visiblePixels().size(), w.pixelLayout().drawablePixelCount());
+    QCOMPARE(view3d->pointPixels().size(), w.pixelLayout().drawablePixelCount());
+    QCOMPARE(inspector->currentUniverse() >= 0, true);
+
+    // Auto orbit: the box starts it; touching the view stops it and unchecks the box.
+    check("Auto orbit")->setChecked(true);
+    QVERIFY(view3d->isAutoOrbitRunning());
+    button("Front")->click();
+    QVERIFY(!view3d->isAutoOrbitRunning());
+    QVERIFY(!check("Auto orbit")->isChecked());
+    QCOMPARE(view3d->camera().pitch, 0.0);
+    QCOMPARE(view3d->camera().yaw, 0.0);
+    button("Reset")->click();
+    QCOMPARE(view3d->camera().yaw, 0.7);
+
+    // Hovering a pixel fills the monitor's hint line.
+    auto *hint = w.findChild<QLabel *>(QStringLiteral("monitorHint"));
+    emit view2d->cellHovered(0);
+    QVERIFY2(hint->text().contains(QStringLiteral(" · port 0x")) && hint->text().contains(QStringLiteral("rgb(0, 0, 0)")),
+             qPrintable(hint->text()));
+    emit view2d->cellHovered(-1);
+    QVERIFY(hint->text().isEmpty());
 }
 
 QTEST_MAIN(TestMainWindow)

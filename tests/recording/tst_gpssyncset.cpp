@@ -1,0 +1,166 @@
+#include "gpstestset.h"
+
+#include "recording/gpssyncset.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace GpsTest;
+
+class TestGpsSyncSet : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void armsOnTheShortestFile();
+    void frameServesEveryGroupInOrder();
+    void controllerUniverseFieldPlaysOnItsPortAddress();
+    void timestampDifferenceAtFrame();
+    void autoFillKeepsUnmatchedPathsAndPathChangesUnload();
+    void notArmedWithoutEveryFile();
+    void aSetOfOne();
+
+private:
+    QString writeGroup(int group, const QByteArray &bytes, const QString &session = QStringLiteral("show"))
+    {
+        return write(
+            QDir(m_dir->path())
+                .filePath(QStringLiteral("%1_%2.tpx").arg(session, m_patch.groups.at(group).groupName)),
+            bytes);
+    }
+    QStringList writeAll()
+    {
+        QStringList paths;
+        for (int g = 0; g < m_patch.groups.size(); ++g)
+            paths.append(writeGroup(g, fileBytes(m_patch, g)));
+        return paths;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    TPatch::PatchData m_patch = GpsTest::patch();
+};
+
+void TestGpsSyncSet::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    m_patch = GpsTest::patch();
+}
+
+void TestGpsSyncSet::armsOnTheShortestFile()
+{
+    QStringList paths = writeAll();
+    paths[1] = writeGroup(1, fileBytes(m_patch, 1, kFrames - 3));
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths(paths);
+    const GpsVerification &v = set.load(&m_patch);
+    QCOMPARE(v.failures, 1); // the lengths differ, and the set is armed all the same
+    QVERIFY(set.isLoaded());
+    QCOMPARE(set.frameCount(), kFrames - 3);
+    QCOMPARE(set.frame(kFrames - 4).size(), 6);
+    QVERIFY(set.frame(kFrames - 3).isEmpty());
+    QVERIFY(set.frame(-1).isEmpty());
+}
+
+void TestGpsSyncSet::frameServesEveryGroupInOrder()
+{
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths(writeAll());
+    set.load(&m_patch);
+    const QVector<GpsFrameRecord> frame = set.frame(7);
+    QVector<quint16> universes;
+    for (const GpsFrameRecord &r : frame)
+        universes.append(r.portAddress);
+    QCOMPARE(universes, QVector<quint16>({1, 2, 3, 4, 5, 6}));
+    // Roof's second record of frame 7: the generator's pattern frame + slot + i.
+    QCOMPARE(frame.at(4).data.size(), kLength);
+    QCOMPARE(int(frame.at(4).data.at(2)), 7 + 1 + 2);
+    QCOMPARE(set.universes(), QVector<quint16>({1, 2, 3, 4, 5, 6}));
+    QCOMPARE(set.groupNames(), QStringList({"Front", "Back_Stage Left", "Roof"}));
+}
+
+void TestGpsSyncSet::controllerUniverseFieldPlaysOnItsPortAddress()
+{
+    m_patch.groups[0].torvoverses[1].subNet = 2; // universe 2 on Sub-Net 2: Port-Address 0x22
+    QStringList paths = writeAll();
+    GpsRecordingSpec s = spec(m_patch, 0);
+    s.universes[1] = 0x202; // what the controller writes into the GPS record
+    paths[0] = writeGroup(0, gpsRecordingBytes(s, pattern()));
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths(paths);
+    QCOMPARE(set.load(&m_patch).failures, 0);
+    QCOMPARE(set.frame(0).at(1).portAddress, quint16(0x22));
+    QCOMPARE(set.universes(), QVector<quint16>({1, 3, 4, 5, 6, 0x22}));
+}
+
+void TestGpsSyncSet::timestampDifferenceAtFrame()
+{
+    QStringList paths = writeAll();
+    QByteArray roof = fileBytes(m_patch, 2);
+    for (int r = 0; r < 3; ++r)
+        setStamp(&roof, 12 * 3 + r, quint16(gpsFrameStamp(12, 40) + 2));
+    paths[2] = writeGroup(2, roof);
+    GpsSyncSet set;
+    QCOMPARE(set.timestampDifferenceAt(0), 0); // nothing loaded
+    set.setGroups(m_patch);
+    set.setPaths(paths);
+    set.load(&m_patch);
+    QCOMPARE(set.timestampDifferenceAt(11), 0);
+    QCOMPARE(set.timestampDifferenceAt(12), 2);
+    QCOMPARE(set.timestampDifferenceAt(13), 0);
+}
+
+void TestGpsSyncSet::autoFillKeepsUnmatchedPathsAndPathChangesUnload()
+{
+    writeAll();
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths({QString(), QStringLiteral("/elsewhere/back.tpx"), QString()});
+    QFile::remove(QDir(m_dir->path()).filePath(QStringLiteral("show_Back_Stage Left.tpx")));
+    QCOMPARE(set.autoFill(m_dir->path()), 2);
+    QCOMPARE(QFileInfo(set.paths().at(0)).fileName(), QStringLiteral("show_Front.tpx"));
+    QCOMPARE(set.paths().at(1), QStringLiteral("/elsewhere/back.tpx"));
+    QCOMPARE(QFileInfo(set.paths().at(2)).fileName(), QStringLiteral("show_Roof.tpx"));
+
+    QVERIFY(set.autoFill(QDir(m_dir->path()).filePath(QStringLiteral("missing"))) == 0);
+    QStringList paths = set.paths();
+    paths[1] = writeGroup(1, fileBytes(m_patch, 1));
+    set.setPaths(paths);
+    set.load(&m_patch);
+    QVERIFY(set.isLoaded());
+    set.setPaths(paths);
+    QVERIFY(!set.isLoaded());
+    QCOMPARE(set.frameCount(), 0);
+    QVERIFY(set.frame(0).isEmpty());
+}
+
+void TestGpsSyncSet::notArmedWithoutEveryFile()
+{
+    QStringList paths = writeAll();
+    paths[0].clear();
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths(paths);
+    set.load(&m_patch);
+    QVERIFY(!set.isLoaded());
+    QVERIFY(set.frame(0).isEmpty());
+}
+
+void TestGpsSyncSet::aSetOfOne()
+{
+    m_patch.groups.remove(1, 2);
+    GpsSyncSet set;
+    set.setGroups(m_patch);
+    set.setPaths({writeGroup(0, fileBytes(m_patch, 0))});
+    const GpsVerification &v = set.load(&m_patch);
+    QCOMPARE(v.failures + v.warnings, 0);
+    QCOMPARE(v.summary.untranslatedText(),
+             QStringLiteral("1 group(s) - 20 frames - structure and sync verified"));
+    QCOMPARE(set.frame(19).size(), 2);
+}
+
+QTEST_GUILESS_MAIN(TestGpsSyncSet)
+#include "tst_gpssyncset.moc"
