@@ -1,5 +1,6 @@
 #include "patch/elmreader.h"
 
+#include "patch/boundedxml.h"
 #include "patch/elmgeometry.h"
 #include "patch/orderednames.h"
 
@@ -26,6 +27,11 @@ constexpr int kPortAddressCount = 32768;
 constexpr int kUniverseChannels = 512;
 // No real fixture comes near this; a larger count is a damaged file, not a reason to allocate.
 constexpr qint64 kMaxLedsPerFixture = 100000;
+// An ELM fixture is a count of LEDs, a few bytes whatever the count, so a
+// small file can ask for millions of them. Past this many in one project the
+// remaining fixtures are skipped: memory and time stay bounded whatever the
+// file says (a project this size is already thousands of universes).
+constexpr qint64 kMaxLedsPerProject = 500000;
 // Largest square drawn per LED, in stage pixels; closer LEDs get 80 % of their spacing.
 constexpr double kMaxPixelSize = 10.0;
 
@@ -56,6 +62,8 @@ struct Findings
     qint64 badUniverse = 0;
     qint64 incomplete = 0;
     qint64 sixteenBit = 0;
+    qint64 leds = 0;       // LEDs taken so far
+    qint64 overLimit = 0;  // fixtures skipped because the project already had kMaxLedsPerProject
 };
 
 struct LedType
@@ -175,6 +183,10 @@ Parsed parseXml(const QByteArray &bytes)
             return parsed;
         }
         sawRoot = true;
+        if (path.size() >= kMaxXmlDepth) {
+            raiseXmlDepthError(xml);
+            break;
+        }
         path.append(xml.name().toString());
         const QXmlStreamAttributes a = xml.attributes();
         if (path.size() == 1) {
@@ -197,7 +209,7 @@ Parsed parseXml(const QByteArray &bytes)
             if (ok)
                 parsed.universeIps.insert(id, parseIp(a.value(QLatin1StringView("IP"))));
         } else if (path.size() > 2 && !(path.at(1) == QLatin1StringView("model"))) {
-            xml.skipCurrentElement(); // views, sequences, settings: not the patch
+            skipElement(xml, int(path.size())); // views, sequences, settings: not the patch
             path.removeLast();
         }
     }
@@ -278,6 +290,11 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
         ++findings.incomplete;
         return;
     }
+    if (findings.leds + leds > kMaxLedsPerProject) {
+        ++findings.overLimit;
+        return;
+    }
+    findings.leds += leds;
 
     // Channel of every LED. breakUniverseAfter 0 packs the channels and runs
     // on into the next universe at 512; N starts a fresh universe (at channel
@@ -443,6 +460,10 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
             {f.incomplete}));
+    if (f.overLimit > 0)
+        warnings.append(PatchMessage(
+            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) were skipped: the project has more than %2 LEDs."),
+            {f.overLimit, kMaxLedsPerProject}));
 }
 
 } // namespace

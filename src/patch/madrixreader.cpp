@@ -1,5 +1,6 @@
 #include "patch/madrixreader.h"
 
+#include "patch/boundedxml.h"
 #include "patch/gzipinflate.h"
 #include "patch/orderednames.h"
 #include "patch/splicedevice.h"
@@ -357,6 +358,12 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
         }
         if (token != QXmlStreamReader::StartElement)
             continue;
+        // The current element's depth: the root is 1, and every element on the stack is open.
+        const int depth = int(stack.size()) + 1;
+        if (depth > kMaxXmlDepth) {
+            raiseXmlDepthError(xml);
+            break;
+        }
         if (!sawRoot) {
             sawRoot = true;
             if (!isNamed(xml, "madrix_patch")) {
@@ -380,9 +387,9 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
                 channel = RawChannel();
                 stack.append(Tag::Channel);
             } else if (target) {
-                *target = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                *target = readElementText(xml, depth);
             } else {
-                xml.skipCurrentElement(); // manufacturer, homepage, operation_mode, color_depth, ...
+                skipElement(xml, depth); // manufacturer, homepage, operation_mode, color_depth, ...
             }
             continue;
         }
@@ -403,14 +410,14 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
                                                            : nullptr;
             }
             if (target)
-                *target = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                *target = readElementText(xml, depth);
             else
-                xml.skipCurrentElement();
+                skipElement(xml, depth);
             continue;
         }
         if (parent == Tag::GroupList) {
             ++mapper.findings.groups;
-            xml.skipCurrentElement();
+            skipElement(xml, depth);
             continue;
         }
         if (parent == Tag::Fixture) {
@@ -421,7 +428,7 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
                 fixture.hasSettings = true;
                 stack.append(Tag::Settings);
             } else {
-                xml.skipCurrentElement();
+                skipElement(xml, depth);
             }
             continue;
         }
@@ -430,7 +437,7 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
                 fixture = RawFixture();
                 stack.append(Tag::Fixture);
             } else {
-                xml.skipCurrentElement();
+                skipElement(xml, depth);
             }
             continue;
         }
@@ -445,11 +452,11 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
         } else if (isNamed(xml, "fixture_group_list")) {
             stack.append(Tag::GroupList);
         } else if (isNamed(xml, "product")) {
-            parsed.product = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+            parsed.product = readElementText(xml, depth).trimmed();
         } else if (isNamed(xml, "version") && parsed.version.isEmpty()) {
-            parsed.version = xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed();
+            parsed.version = readElementText(xml, depth).trimmed();
         } else if (unsupported != std::end(kUnsupported) || !isNamed(xml, "patch")) {
-            xml.skipCurrentElement();
+            skipElement(xml, depth);
         } else {
             stack.append(Tag::Other); // <patch>: look inside for the list
         }

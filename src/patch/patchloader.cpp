@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace TPatch {
 
 namespace {
@@ -23,29 +25,52 @@ QByteArray head(const QString &path)
 
 } // namespace
 
-PatchFormat sniffPatchFormat(const QString &path)
+PatchFormat sniffPatchFormat(const QString &fileName, const QByteArray &bytes)
 {
-    const QByteArray bytes = head(path);
-    const QString lower = path.toLower();
-    if (lower.endsWith(QLatin1StringView(".mpz")) || bytes.startsWith("\x1F\x8B") || bytes.contains("<madrix_patch"))
+    const QByteArrayView start = QByteArrayView(bytes).first(std::min<qsizetype>(bytes.size(), kSniffBytes));
+    const QString lower = fileName.toLower();
+    if (lower.endsWith(QLatin1StringView(".mpz")) || start.startsWith("\x1F\x8B") || start.contains("<madrix_patch"))
         return PatchFormat::Madrix;
     if (lower.endsWith(QLatin1StringView(".elm")) || lower.endsWith(QLatin1StringView(".elmbackup"))
-        || (bytes.contains("<console") && bytes.contains("appVersion")))
+        || (start.contains("<console") && start.contains("appVersion")))
         return PatchFormat::Elm;
     return PatchFormat::Native;
 }
 
-PatchLoadResult loadPatch(const QString &path)
+PatchFormat sniffPatchFormat(const QString &path)
 {
-    switch (sniffPatchFormat(path)) {
+    return sniffPatchFormat(path, head(path));
+}
+
+PatchLoadResult loadPatchData(const QByteArray &bytes, const QString &fileName, const QString &sourcePath)
+{
+    switch (sniffPatchFormat(fileName, bytes)) {
     case PatchFormat::Madrix:
-        return readMadrixPatch(path);
+        return parseMadrixPatch(bytes, fileName, sourcePath);
     case PatchFormat::Elm:
-        return readElmProject(path);
+        return parseElmProject(bytes, fileName, sourcePath);
     case PatchFormat::Native:
         break;
     }
-    return readTPatch(path);
+    return parseTPatch(bytes, fileName, sourcePath);
+}
+
+PatchLoadResult loadPatch(const QString &path)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+        // The reader the name points to says why, in its own words.
+        switch (sniffPatchFormat(path, QByteArray())) {
+        case PatchFormat::Madrix:
+            return readMadrixPatch(path);
+        case PatchFormat::Elm:
+            return readElmProject(path);
+        case PatchFormat::Native:
+            break;
+        }
+        return readTPatch(path);
+    }
+    return loadPatchData(file.readAll(), QFileInfo(path).fileName(), path);
 }
 
 } // namespace TPatch

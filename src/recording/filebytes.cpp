@@ -48,6 +48,14 @@ bool FileBytes::load(const QString &path)
     return true;
 }
 
+void FileBytes::setBytes(const QByteArray &bytes)
+{
+    clear();
+    m_read = bytes;
+    m_data = m_read.constData();
+    m_size = m_read.size();
+}
+
 void FileBytes::clear()
 {
     m_file.reset(); // unmaps

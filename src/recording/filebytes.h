@@ -30,6 +30,8 @@ public:
     // Opens and maps (or reads) the file. On failure returns false and sets
     // errorString() to the device's error text; the object is then empty.
     bool load(const QString &path);
+    // Holds bytes already in memory instead (shared, not copied).
+    void setBytes(const QByteArray &bytes);
     void clear();
 
     const char *data() const { return m_data; }

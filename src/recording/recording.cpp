@@ -256,6 +256,20 @@ RecordingLoadResult Recording::load(const QString &path, const TPatch::PatchData
     if (!m_bytes.load(path))
         return fail(PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"),
                                  {fileName, m_bytes.errorString()}));
+    return index(path, fileName, patch, quiet);
+}
+
+RecordingLoadResult Recording::loadData(const QByteArray &bytes, const QString &fileName,
+                                        const TPatch::PatchData *patch, bool quiet)
+{
+    reset();
+    m_bytes.setBytes(bytes);
+    return index(fileName, fileName, patch, quiet);
+}
+
+RecordingLoadResult Recording::index(const QString &path, const QString &fileName, const TPatch::PatchData *patch,
+                                     bool quiet)
+{
     if (m_bytes.size() < kMinFileSize)
         return fail(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "\"%1\" is too small to contain a single record."), {fileName}));

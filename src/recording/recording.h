@@ -31,6 +31,10 @@ public:
     // one-group GPS-Sync warning (set when the file is one member of a set).
     RecordingLoadResult load(const QString &path, const TPatch::PatchData *patch = nullptr,
                              bool quiet = false);
+    // The same on bytes already in memory (kept, not copied); fileName names
+    // the file in messages and becomes path().
+    RecordingLoadResult loadData(const QByteArray &bytes, const QString &fileName,
+                                 const TPatch::PatchData *patch = nullptr, bool quiet = false);
     void reset();
 
     // The record of a frame's slot, or an all-zero reference when out of range.
@@ -66,6 +70,9 @@ public:
 
 private:
     RecordingLoadResult fail(TPatch::PatchMessage error);
+    // Indexes the bytes now held; path becomes path() on success.
+    RecordingLoadResult index(const QString &path, const QString &fileName, const TPatch::PatchData *patch,
+                              bool quiet);
     bool findFirstRecord();
     bool walkRecords(RecordingLoadResult *result, const QString &fileName);
     void matchPatch(const TPatch::PatchData &patch, RecordingLoadResult *result);

@@ -18,6 +18,10 @@ const FuzzTarget *fuzzTargets(std::size_t *count);
 // The target of that name, or nullptr.
 const FuzzTarget *findFuzzTarget(const char *name);
 
+// Makes the QCoreApplication that timers and events need, once, when the
+// process has none (the libFuzzer binaries; the regression test has its own).
+void ensureFuzzApplication();
+
 // Aborts with a message when a parser breaks one of its own promises.
 [[noreturn]] void fuzzPromiseBroken(const char *target, const char *what);
 #define FUZZ_PROMISE(target, condition)                                                                      \

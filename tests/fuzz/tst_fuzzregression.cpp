@@ -11,9 +11,24 @@ class TestFuzzRegression : public QObject
 {
     Q_OBJECT
 private slots:
+    void everyTargetHasSeedsAndDictionary();
     void replay_data();
     void replay();
 };
+
+void TestFuzzRegression::everyTargetHasSeedsAndDictionary()
+{
+    std::size_t count = 0;
+    const FuzzTarget *targets = fuzzTargets(&count);
+    QVERIFY(count > 0);
+    const QString root = QStringLiteral(TALU_SOURCE_DIR "/tests/fuzz");
+    for (std::size_t i = 0; i < count; ++i) {
+        const QString name = QString::fromLatin1(targets[i].name);
+        QVERIFY2(!QDir(root + QStringLiteral("/corpus/") + name).isEmpty(QDir::Files), qPrintable(name));
+        QVERIFY2(QFileInfo::exists(root + QStringLiteral("/dict/") + name + QStringLiteral(".dict")), qPrintable(name));
+        QCOMPARE(findFuzzTarget(targets[i].name), &targets[i]);
+    }
+}
 
 void TestFuzzRegression::replay_data()
 {

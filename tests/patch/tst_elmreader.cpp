@@ -71,6 +71,7 @@ private slots:
     void curveAndLoop();
     void stagesAndTargets();
     void skippedFixtures();
+    void projectLedLimit();
     void failures_data();
     void failures();
 };
@@ -328,6 +329,19 @@ void TestElmReader::skippedFixtures()
     QCOMPARE(countPatch(r.patch).fixtures, 1);
 }
 
+void TestElmReader::projectLedLimit()
+{
+    // A fixture is a count, so a few hundred bytes can ask for millions of LEDs:
+    // past 500,000 in the project the remaining fixtures are skipped.
+    ElmSampleFixture big;
+    big.leds = QStringLiteral("100000");
+    big.breakUniverseAfter = QStringLiteral("170");
+    const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({big, big, big, big, big, big, big})), kFile, kFile);
+    QVERIFY(r.ok);
+    QCOMPARE(countPatch(r.patch).pixels, 500000);
+    QVERIFY(warningTexts(r).contains(QStringLiteral("2 fixture(s) were skipped: the project has more than 500000 LEDs.")));
+}
+
 void TestElmReader::failures_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -338,6 +352,12 @@ void TestElmReader::failures_data()
                                 << unreadable + QStringLiteral("the <console> root element is missing");
     QTest::newRow("cut off") << QByteArray("<console appVersion=\"1\">\r\n<model>")
                              << unreadable + QStringLiteral("Premature end of document. (line 2)");
+    QTest::newRow("nested too deep under model")
+        << QByteArray("<console appVersion=\"1\"><model>") + QByteArray("<a>").repeated(300)
+        << unreadable + QStringLiteral("elements are nested more than 256 deep (line 1)");
+    QTest::newRow("nested too deep in a view")
+        << QByteArray("<console appVersion=\"1\"><view><stage>") + QByteArray("<a>").repeated(300)
+        << unreadable + QStringLiteral("elements are nested more than 256 deep (line 1)");
     QTest::newRow("no stages") << QByteArray("<console version=\"1\" appVersion=\"1.0.0.673\"/>")
                                << QStringLiteral("\"club.elm\" contains no DMX fixtures that can be shown.");
     ElmSample onlyView; // nothing under model/stages: the decoy stages must not count

@@ -452,6 +452,7 @@ void TestMadrixReader::hostileXmlIsBounded_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("ok");
+    QTest::addColumn<bool>("tooDeep"); // refused for nesting elements more than 256 deep
 
     QByteArray laughs =
         "<?xml version=\"1.0\"?>\n<!DOCTYPE madrix_patch [\n<!ENTITY a0 \"hahahahahahahahahaha\">\n";
@@ -461,31 +462,41 @@ void TestMadrixReader::hostileXmlIsBounded_data()
                       .arg(i - 1)
                       .toLatin1();
     laughs += "]>\n<madrix_patch><product>&a11;</product><patch><fixture_list/></patch></madrix_patch>";
-    QTest::newRow("entity expansion") << laughs << false;
+    QTest::newRow("entity expansion") << laughs << false << false;
 
     QByteArray deep = "<madrix_patch><patch><fixture_list><fixture><fixture_settings>";
     deep += QByteArray("<a>").repeated(100000);
     deep += QByteArray("</a>").repeated(100000);
     deep += "</fixture_settings></fixture></fixture_list></patch></madrix_patch>";
-    QTest::newRow("deep nesting in a fixture") << deep << false;
+    QTest::newRow("deep nesting in a fixture") << deep << false << true;
     QByteArray deepTop = "<madrix_patch>" + QByteArray("<x>").repeated(200000);
-    QTest::newRow("deep and unclosed") << deepTop << false;
+    QTest::newRow("deep and unclosed") << deepTop << false << true;
+    QByteArray deepPatch = "<madrix_patch>" + QByteArray("<patch>").repeated(300);
+    QTest::newRow("nested patch elements") << deepPatch << false << true;
+    QByteArray deepText = "<madrix_patch><product>" + QByteArray("<b>").repeated(300);
+    QTest::newRow("deep inside a text element") << deepText << false << true;
+    // The root at depth 1, the list at 3: 253 more levels reach 256 exactly.
+    QByteArray deepest = "<madrix_patch><patch><fixture_list>" + QByteArray("<a>").repeated(253)
+                         + QByteArray("</a>").repeated(253) + "</fixture_list></patch></madrix_patch>";
+    QTest::newRow("256 deep is read") << deepest << false << false;
 
     QTest::newRow("external entity")
         << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE m [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>"
                       "<madrix_patch><product>&e;</product><patch><fixture_list/></patch></madrix_patch>")
-        << false;
+        << false << false;
 }
 
 void TestMadrixReader::hostileXmlIsBounded()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(bool, ok);
+    QFETCH(bool, tooDeep);
     QElapsedTimer timer;
     timer.start();
     const PatchLoadResult r = parseMadrixPatch(bytes, kFile, kFile);
     QCOMPARE(r.ok, ok);
     QVERIFY(!r.error.isEmpty());
+    QCOMPARE(r.error.untranslatedText().contains(QStringLiteral("elements are nested more than 256 deep")), tooDeep);
     qInfo("%s in %lld ms", qPrintable(r.error.untranslatedText().left(160)), timer.elapsed());
 }
 

@@ -18,6 +18,7 @@ private slots:
     void sniffing();
     void loadThroughEntryPoint_data();
     void loadThroughEntryPoint();
+    void bytesLoadAsTheFileWould();
 };
 
 void TestPatchLoader::sniffing_data()
@@ -53,6 +54,8 @@ void TestPatchLoader::sniffing()
     const QString path = dir.filePath(name.isEmpty() ? QStringLiteral("absent.tpatch") : name);
     QVERIFY(name.isEmpty() || !TestFiles::write(path, head).isEmpty());
     QCOMPARE(int(sniffPatchFormat(path)), format);
+    if (!name.isEmpty())
+        QCOMPARE(int(sniffPatchFormat(name, head)), format);
 }
 
 // Whole generated files of each kind, under names that do not give them away.
@@ -92,6 +95,27 @@ void TestPatchLoader::loadThroughEntryPoint()
     const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("gone.") + QFileInfo(name).suffix()));
     QVERIFY(!missing.ok);
     QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.")));
+}
+
+void TestPatchLoader::bytesLoadAsTheFileWould()
+{
+    // Content decides under a neutral name: MADRIX text is read as MADRIX, whatever the name says.
+    const QByteArray madrix("<madrix_patch version=\"0x05000000\"><fixture_list/></madrix_patch>");
+    const PatchLoadResult fromBytes = loadPatchData(madrix, QStringLiteral("show.tpatch"), QStringLiteral("/x/show.tpatch"));
+    QCOMPARE(fromBytes.patch.sourceKind, SourceKind::Madrix);
+    QCOMPARE(fromBytes.patch.sourcePath, QStringLiteral("/x/show.tpatch"));
+    QVERIFY(!fromBytes.ok);
+    QVERIFY(fromBytes.error.untranslatedText().contains(QStringLiteral("\"show.tpatch\"")));
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("show.tpatch"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(madrix);
+    file.close();
+    const PatchLoadResult fromFile = loadPatch(path);
+    QCOMPARE(fromFile.patch.sourceKind, SourceKind::Madrix);
+    QCOMPARE(fromFile.error.untranslatedText(), fromBytes.error.untranslatedText());
 }
 
 QTEST_GUILESS_MAIN(TestPatchLoader)

@@ -378,6 +378,24 @@ private slots:
         QCOMPARE(rec.universes(), (QVector<quint16>{7, 0x0100, 0x0203}));
     }
 
+    void bytesLoadAsTheFileWould()
+    {
+        QByteArray bytes;
+        for (int f = 0; f < 3; ++f)
+            bytes += artDmx(10, 2, quint16(f)) + artDmx(11, 2, quint16(f));
+        Recording fromFile;
+        Recording fromBytes;
+        QVERIFY(fromFile.load(write(QStringLiteral("same.tpx"), bytes)).ok);
+        QVERIFY(fromBytes.loadData(bytes, QStringLiteral("same.tpx")).ok);
+        QCOMPARE(fromBytes.path(), QStringLiteral("same.tpx"));
+        QCOMPARE(fromBytes.records(), fromFile.records());
+        QCOMPARE(fromBytes.frameCount(), fromFile.frameCount());
+        QCOMPARE(fromBytes.timestampOf(fromBytes.recordAt(2, 1)), quint16(2));
+        const RecordingLoadResult tooSmall = fromBytes.loadData(bytes.left(10), QStringLiteral("cut.tpx"));
+        QCOMPARE(tooSmall.error.untranslatedText(), QStringLiteral("\"cut.tpx\" is too small to contain a single record."));
+        QVERIFY(!fromBytes.isLoaded());
+    }
+
     void randomBytesNeverCrash()
     {
         // Records with random bytes after a valid start, and random cuts of a
