@@ -3,6 +3,7 @@
 #include "patch/boundedxml.h"
 #include "patch/elmgeometry.h"
 #include "patch/orderednames.h"
+#include "patch/patchfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -502,17 +503,14 @@ PatchLoadResult parseElmProject(const QByteArray &bytes, const QString &fileName
 
 PatchLoadResult readElmProject(const QString &path)
 {
-    const QString fileName = QFileInfo(path).fileName();
-    QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+    QByteArray bytes;
+    PatchMessage error;
+    if (!readPatchFile(path, &bytes, &error)) {
         PatchLoadResult result = emptyResult(path);
-        const QString reason =
-            QFileInfo(path).isDir() ? QStringLiteral("it is a folder, not a file") : file.errorString();
-        result.error =
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
+        result.error = error;
         return result;
     }
-    return parseElmProject(file.readAll(), fileName, path);
+    return parseElmProject(bytes, QFileInfo(path).fileName(), path);
 }
 
 } // namespace TPatch

@@ -3,6 +3,7 @@
 #include "patch/boundedxml.h"
 #include "patch/gzipinflate.h"
 #include "patch/orderednames.h"
+#include "patch/patchfile.h"
 #include "patch/splicedevice.h"
 
 #include <QBuffer>
@@ -656,17 +657,14 @@ PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fil
 
 PatchLoadResult readMadrixPatch(const QString &path)
 {
-    const QString fileName = QFileInfo(path).fileName();
-    QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+    QByteArray bytes;
+    PatchMessage error;
+    if (!readPatchFile(path, &bytes, &error)) {
         PatchLoadResult result = emptyResult(path);
-        const QString reason =
-            QFileInfo(path).isDir() ? QStringLiteral("it is a folder, not a file") : file.errorString();
-        result.error =
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
+        result.error = error;
         return result;
     }
-    return parseMadrixPatch(file.readAll(), fileName, path);
+    return parseMadrixPatch(bytes, QFileInfo(path).fileName(), path);
 }
 
 } // namespace TPatch

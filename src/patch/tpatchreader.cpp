@@ -1,5 +1,6 @@
 #include "patch/tpatchreader.h"
 
+#include "patch/patchfile.h"
 #include "patch/patchkeys.h"
 
 #include <QFile>
@@ -321,20 +322,13 @@ PatchLoadResult parseTPatch(const QByteArray &bytes, const QString &fileName, co
 
 PatchLoadResult readTPatch(const QString &path)
 {
-    const QString fileName = QFileInfo(path).fileName();
-    QFile file(path);
-    // QFile opens a directory "successfully" on some systems; it is not a patch either way.
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        PatchLoadResult result;
+    QByteArray bytes;
+    PatchLoadResult result;
+    if (!readPatchFile(path, &bytes, &result.error)) {
         result.patch.formatLabel = QString::fromLatin1(kFormatLabel);
-        const QString reason =
-            QFileInfo(path).isDir() ? QStringLiteral("it is a folder, not a file") : file.errorString();
-        result.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "Could not open \"%1\": %2"), {fileName, reason});
         return result;
     }
-    const QByteArray bytes = file.readAll();
-    file.close();
-    return parseTPatch(bytes, fileName, path);
+    return parseTPatch(bytes, QFileInfo(path).fileName(), path);
 }
 
 } // namespace TPatch
