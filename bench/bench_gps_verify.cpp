@@ -105,14 +105,14 @@ int main(int argc, char *argv[])
     QElapsedTimer generating;
     generating.start();
     for (int g = 0; g < groups; ++g) {
-        GpsRecordingSpec spec;
-        spec.universes = order.groupUniverses(g);
-        spec.lengths = QVector<int>(spec.universes.size(), 512);
-        spec.frames = frames;
-        spec.fps = kFps;
+        GpsRecordingPlan plan;
+        plan.universes = order.groupUniverses(g);
+        plan.lengths = QVector<int>(plan.universes.size(), 512);
+        plan.frames = frames;
+        plan.fps = kFps;
         const QString path = QDir(dir.path()).filePath(QStringLiteral("bench_Group %1.tpx").arg(g + 1));
         QString error;
-        if (!writeGpsRecording(path, spec, {}, &error)) {
+        if (!writeGpsRecording(path, plan, {}, &error)) {
             std::fprintf(stderr, "cannot write %s: %s\n", qPrintable(path), qPrintable(error));
             return 1;
         }

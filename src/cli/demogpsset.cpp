@@ -21,14 +21,14 @@ bool writeDemoGpsSet(const QString &folder, QString *error)
     const FrameOrder order = expectedFrameOrder(patch);
     for (int g = 0; g < patch.groups.size(); ++g) {
         const PatchGroup &group = patch.groups.at(g);
-        GpsRecordingSpec spec;
-        spec.universes = order.groupUniverses(g);
-        spec.frames = kDemoGpsFrames;
-        spec.fps = kDemoGpsFps;
+        GpsRecordingPlan plan;
+        plan.universes = order.groupUniverses(g);
+        plan.frames = kDemoGpsFrames;
+        plan.fps = kDemoGpsFps;
         // Each torvoverse sends as many channels as its fixtures use, the
         // same in every frame, as the demo recording does.
         for (const Torvoverse &t : group.torvoverses)
-            spec.lengths.append(int(demoUniverseData(t, g, 0).size()));
+            plan.lengths.append(int(demoUniverseData(t, g, 0).size()));
         const GpsDataSource source = [&](qint64 frame, int slot, char *data, int length) {
             const QByteArray bytes =
                 demoUniverseData(group.torvoverses.at(slot), g, frame / double(kDemoGpsFps));
@@ -36,7 +36,7 @@ bool writeDemoGpsSet(const QString &folder, QString *error)
         };
         const QString path = QDir(folder).filePath(QStringLiteral("demo_%1.tpx").arg(group.groupName));
         QString reason;
-        if (!writeGpsRecording(path, spec, source, &reason)) {
+        if (!writeGpsRecording(path, plan, source, &reason)) {
             *error = QStringLiteral("%1: %2").arg(path, reason);
             return false;
         }

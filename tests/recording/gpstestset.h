@@ -56,9 +56,9 @@ constexpr int kLength = 12; // data bytes per record
 constexpr int kRecordSize = 18 + kLength + 2;
 
 // The file of group g as the controller writes it: correct in every respect.
-inline GpsRecordingSpec spec(const TPatch::PatchData &p, int group, qint64 frames = kFrames)
+inline GpsRecordingPlan plan(const TPatch::PatchData &p, int group, qint64 frames = kFrames)
 {
-    GpsRecordingSpec s;
+    GpsRecordingPlan s;
     s.universes = TPatch::expectedFrameOrder(p).groupUniverses(group);
     s.lengths = QVector<int>(s.universes.size(), kLength);
     s.frames = frames;
@@ -76,7 +76,7 @@ inline GpsDataSource pattern()
 
 inline QByteArray fileBytes(const TPatch::PatchData &p, int group, qint64 frames = kFrames)
 {
-    return gpsRecordingBytes(spec(p, group, frames), pattern());
+    return gpsRecordingBytes(plan(p, group, frames), pattern());
 }
 
 using TestFiles::write;

@@ -87,7 +87,7 @@ void TestGpsSyncSet::controllerUniverseFieldPlaysOnItsPortAddress()
 {
     m_patch.groups[0].torvoverses[1].subNet = 2; // universe 2 on Sub-Net 2: Port-Address 0x22
     QStringList paths = writeAll();
-    GpsRecordingSpec s = spec(m_patch, 0);
+    GpsRecordingPlan s = plan(m_patch, 0);
     s.universes[1] = 0x202; // what the controller writes into the GPS record
     paths[0] = writeGroup(0, gpsRecordingBytes(s, pattern()));
     GpsSyncSet set;

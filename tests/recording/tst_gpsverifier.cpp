@@ -54,7 +54,7 @@ Built build(Fault fault, const QString &dir)
         b.patch.groups[2].torvoverses[0].subNet = 1;
     QVector<QByteArray> files;
     for (int g = 0; g < b.patch.groups.size(); ++g) {
-        GpsRecordingSpec s = spec(b.patch, g);
+        GpsRecordingPlan s = plan(b.patch, g);
         if (fault == ExtraUniverse && g == 0) {
             s.universes.append(7);
             s.lengths.append(kLength);
