@@ -6,6 +6,7 @@
 #include "cli/elmsample.h"
 #include "cli/madrixsample.h"
 #include "patch/patchloader.h"
+#include "patch/pixellayout.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -66,6 +67,8 @@ void timeLoad(const char *label, const QString &path, double targetMs)
         const double cpuStart = cpuTimeMs();
         timer.start();
         const TPatch::PatchLoadResult result = TPatch::loadPatch(path);
+        // What the user waits for: the import and the layout the monitor is built from.
+        const TPatch::PixelLayout layout = TPatch::buildPixelLayout(result.patch);
         ms.push_back(timer.nsecsElapsed() / 1e6);
         cpuMs.push_back(cpuTimeMs() - cpuStart);
         ok = ok && result.ok;
@@ -135,6 +138,6 @@ int main(int argc, char *argv[])
     std::printf("gzip bomb: %lld bytes unpacking to 600 MiB\n", static_cast<long long>(QFileInfo(bombPath).size()));
     timeLoad("MADRIX refusal, gzip bomb", bombPath, 0);
 
-    std::printf("Layout is not part of these figures: the layout step is built on another branch.\n");
+    std::printf("Every figure includes the pixel layout of the imported patch.\n");
     return 0;
 }
