@@ -2,6 +2,8 @@
 #include "artnet/linuxudpdatagramsocket.h"
 #include "artnet/udpdatagramsocket.h"
 
+#include "netnsguard.h"
+
 #include <QSignalSpy>
 #include <QUdpSocket>
 #include <QtTest>
@@ -43,6 +45,7 @@ class TestArtNetNodeSocket : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { TALU_REQUIRE_PRIVATE_NAMESPACE(); }
     void initTestCase_data();
     void answersPollAndReceivesDmx();
     void broadcastsReachTheSegment();

@@ -2,6 +2,8 @@
 #include "clirunner.h"
 #include "recording/recording.h"
 
+#include "netnsguard.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -40,6 +42,7 @@ class TestListenCommand : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { TALU_REQUIRE_PRIVATE_NAMESPACE(); }
     void answersPollAndReportsJson();
     void advertisesThePatchUniverses();
     void recordsEveryDmxPacket();
