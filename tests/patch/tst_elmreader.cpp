@@ -3,6 +3,8 @@
 #include "patch/elmreader.h"
 #include "patch/patchkeys.h"
 
+#include "patchtexts.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -13,22 +15,6 @@ Q_DECLARE_METATYPE(ElmSampleFixture)
 namespace {
 
 const QString kFile = QStringLiteral("club.elm");
-
-QString rolesText(const LedRecord &led)
-{
-    QString s;
-    for (quint8 r : led.roles)
-        s += QString::number(r);
-    return s;
-}
-
-QStringList warningTexts(const PatchLoadResult &r)
-{
-    QStringList out;
-    for (const PatchMessage &m : r.warnings)
-        out.append(m.untranslatedText());
-    return out;
-}
 
 ElmSample oneStage(const QVector<ElmSampleFixture> &fixtures)
 {
@@ -112,10 +98,10 @@ void TestElmReader::pixelTypes()
     f.startAddress = QStringLiteral("100");
     const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({f})), kFile, kFile);
     QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
-    QCOMPARE(warningTexts(r), warnings);
+    QCOMPARE(PatchTexts::warnings(r), warnings);
     const PatchFixture &p = r.patch.groups.first().torvoverses.first().fixtures.first();
     QCOMPARE(p.leds.size(), 10);
-    QCOMPARE(rolesText(p.leds.first()), roles);
+    QCOMPARE(PatchTexts::roles(p.leds.first()), roles);
     QCOMPARE(int(p.leds.at(0).address), 100);
     QCOMPARE(int(p.leds.at(1).address), 100 + secondAddress);
 }
@@ -162,7 +148,7 @@ void TestElmReader::universes()
     const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({f})), kFile, kFile);
     QVERIFY2(r.ok, qPrintable(r.error.untranslatedText()));
     QCOMPARE(::wiring(r), wiring);
-    QCOMPARE(warningTexts(r), warnings);
+    QCOMPARE(PatchTexts::warnings(r), warnings);
     // Every part of a fixture keeps only its own pixels' points.
     for (const Torvoverse &t : r.patch.groups.first().torvoverses)
         for (const PatchFixture &p : t.fixtures)
@@ -318,7 +304,7 @@ void TestElmReader::skippedFixtures()
         parseElmProject(writeElmXml(oneStage({good, dmx, odd, dmx, far, empty, huge})), kFile, kFile);
     QVERIFY(r.ok);
     QCOMPARE(
-        warningTexts(r),
+        PatchTexts::warnings(r),
         (QStringList{
             QStringLiteral("2 fixture(s) output sACN rather than Art-Net and were skipped."),
             QStringLiteral("1 fixture(s) use LED types the tester does not know (RGBX) and were skipped."),
@@ -339,7 +325,7 @@ void TestElmReader::projectLedLimit()
     const PatchLoadResult r = parseElmProject(writeElmXml(oneStage({big, big, big, big, big, big, big})), kFile, kFile);
     QVERIFY(r.ok);
     QCOMPARE(countPatch(r.patch).pixels, 500000);
-    QVERIFY(warningTexts(r).contains(QStringLiteral("2 fixture(s) were skipped: the project has more than 500000 LEDs.")));
+    QVERIFY(PatchTexts::warnings(r).contains(QStringLiteral("2 fixture(s) were skipped: the project has more than 500000 LEDs.")));
 }
 
 void TestElmReader::failures_data()

@@ -4,6 +4,8 @@
 #include "patch/patchkeys.h"
 #include "testfiles.h"
 
+#include "patchtexts.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -15,29 +17,12 @@ namespace {
 
 const QString kFile = QStringLiteral("show.mpz");
 
-// Slot roles as six digits, "123000" for R, G, B.
-QString rolesText(const LedRecord &led)
-{
-    QString s;
-    for (quint8 r : led.roles)
-        s += QString::number(r);
-    return s;
-}
-
 QString cellsText(const PatchFixture &f)
 {
     QStringList cells;
     for (const LedRecord &led : f.leds)
         cells.append(QStringLiteral("%1,%2").arg(led.posX).arg(led.posY));
     return cells.join(u';');
-}
-
-QStringList warningTexts(const PatchLoadResult &r)
-{
-    QStringList out;
-    for (const PatchMessage &m : r.warnings)
-        out.append(m.untranslatedText());
-    return out;
 }
 
 MadrixSampleChannel channel(const char *name, int number, int colour, int fixed = 0)
@@ -227,7 +212,7 @@ void TestMadrixReader::mapping()
     const PatchLoadResult r = parseMadrixPatch(writeMadrixXml(withBaseline(fixture)), kFile, kFile);
     QVERIFY(r.ok);
     QFETCH(QStringList, warnings);
-    QCOMPARE(warningTexts(r), warnings);
+    QCOMPARE(PatchTexts::warnings(r), warnings);
     quint16 pa = 0;
     const PatchFixture *f = findFixture(r, QStringLiteral("T"), &pa);
     QCOMPARE(f != nullptr, present);
@@ -238,7 +223,7 @@ void TestMadrixReader::mapping()
     QFETCH(int, address);
     QFETCH(QString, cells);
     QCOMPARE(int(pa), portAddress);
-    QCOMPARE(rolesText(f->leds.first()), roles);
+    QCOMPARE(PatchTexts::roles(f->leds.first()), roles);
     QCOMPARE(int(f->leds.first().address), address);
     QCOMPARE(cellsText(*f), cells);
 }
@@ -341,7 +326,7 @@ void TestMadrixReader::everyWarningInOrder()
             "1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped."),
         QStringLiteral("1 fixture(s) are incomplete in the file and were skipped."),
     };
-    QCOMPARE(warningTexts(r), expected);
+    QCOMPARE(PatchTexts::warnings(r), expected);
 }
 
 void TestMadrixReader::failures_data()
@@ -534,8 +519,8 @@ void TestMadrixReader::largePatchReadsAsInOnePass()
     const PatchLoadResult single = parseMadrixPatch(onePass, kFile, kFile);
     QVERIFY(split.ok);
     QVERIFY(single.ok);
-    QCOMPARE(warningTexts(split), warningTexts(single));
-    QVERIFY(warningTexts(split).join(u'|').contains(QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
+    QCOMPARE(PatchTexts::warnings(split), PatchTexts::warnings(single));
+    QVERIFY(PatchTexts::warnings(split).join(u'|').contains(QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
     const QVector<Torvoverse> &a = split.patch.groups.first().torvoverses;
     const QVector<Torvoverse> &b = single.patch.groups.first().torvoverses;
     QCOMPARE(a.size(), b.size());

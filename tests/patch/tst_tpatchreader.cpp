@@ -2,6 +2,8 @@
 #include "patch/tpatchreader.h"
 #include "patch/tpatchwriter.h"
 
+#include "patchtexts.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -56,14 +58,6 @@ PatchLoadResult parse(const QByteArray &bytes)
 PatchLoadResult parse(const QJsonObject &root)
 {
     return parse(QJsonDocument(root).toJson());
-}
-
-QStringList warningTexts(const PatchLoadResult &r)
-{
-    QStringList out;
-    for (const PatchMessage &m : r.warnings)
-        out.append(m.untranslatedText());
-    return out;
 }
 
 const PatchFixture &firstFixture(const PatchLoadResult &r)
@@ -183,7 +177,7 @@ void TestTPatchReader::warnings()
     QFETCH(QStringList, expected);
     const PatchLoadResult r = parse(root);
     QVERIFY(r.ok);
-    QCOMPARE(warningTexts(r), expected);
+    QCOMPARE(PatchTexts::warnings(r), expected);
 }
 
 void TestTPatchReader::defaultsAndClamps()
