@@ -27,10 +27,9 @@ void printJson(const QJsonObject &object)
     std::fflush(stdout);
 }
 
-bool parseCommandLine(QCommandLineParser &parser, const QString &command, const QStringList &arguments,
-                      bool *helpShown)
+std::optional<CliExit> parseCommandLine(QCommandLineParser &parser, const QString &command,
+                                        const QStringList &arguments)
 {
-    *helpShown = false;
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     parser.addOption(help);
@@ -41,11 +40,11 @@ bool parseCommandLine(QCommandLineParser &parser, const QString &command, const 
     if (!parser.parse(argv)) {
         printErr(QStringLiteral("talu-cli %1: %2").arg(command, parser.errorText()));
         printErr(helpText);
-        return false;
+        return ExitUsage;
     }
     if (parser.isSet(help)) {
         printOut(helpText);
-        *helpShown = true;
+        return ExitOk;
     }
-    return true;
+    return std::nullopt;
 }

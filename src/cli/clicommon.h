@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 // Exit codes every talu-cli command keeps: scripts on show machines rely on them.
 enum CliExit { ExitOk = 0, ExitRefused = 1, ExitUsage = 2 };
 
@@ -15,7 +17,8 @@ void printErr(const QString &text);
 void printJson(const QJsonObject &object);
 
 // Parses a command's own arguments (without the program and command names).
-// On a usage error prints it with the command's help and returns false; on
-// --help prints the help and sets helpShown.
-bool parseCommandLine(QCommandLineParser &parser, const QString &command, const QStringList &arguments,
-                      bool *helpShown);
+// Returns the exit code to stop with: ExitUsage after printing a usage error
+// with the command's help, ExitOk after printing the help for --help; nothing
+// when the command should go on.
+std::optional<CliExit> parseCommandLine(QCommandLineParser &parser, const QString &command,
+                                        const QStringList &arguments);

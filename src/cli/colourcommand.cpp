@@ -78,11 +78,8 @@ int runColourCommand(const QStringList &arguments)
     const QCommandLineOption white(QStringLiteral("white"), QStringLiteral("Add the W / CW / WW slots to the colour."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOptions({roles, start, white, json});
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("colour"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("colour"), arguments))
+        return *done;
 
     TPatch::LayoutPixel pixel;
     const QStringList roleTokens = parser.value(roles).split(QLatin1Char(','));

@@ -63,11 +63,8 @@ int runFilterCommand(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("expr"), QStringLiteral("The filter expression."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOption(json);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("filter"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("filter"), arguments))
+        return *done;
     if (parser.positionalArguments().isEmpty()) {
         printErr(QStringLiteral("talu-cli filter: give a filter expression."));
         return ExitUsage;

@@ -104,11 +104,8 @@ int runGenerateCommand(const QStringList &arguments)
     const QCommandLineOption plain(QStringLiteral("plain"), QStringLiteral("madrix-patch: write plain XML, not gzip."));
     parser.addOption(fixtures);
     parser.addOption(plain);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("generate"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("generate"), arguments))
+        return *done;
 
     const QStringList args = parser.positionalArguments();
     const SampleKind *kind = nullptr;

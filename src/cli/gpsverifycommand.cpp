@@ -82,11 +82,8 @@ int runGpsVerifyCommand(const QStringList &arguments)
     parser.addOption(folderOption);
     parser.addOption(setOption);
     parser.addOption(json);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("gps-verify"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("gps-verify"), arguments))
+        return *done;
     if (!parser.isSet(patchOption) || parser.isSet(folderOption) == parser.isSet(setOption) ||
         !parser.positionalArguments().isEmpty()) {
         printErr(QStringLiteral(

@@ -162,11 +162,8 @@ int runListenCommand(const QStringList &arguments)
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
     for (const QCommandLineOption &o : {address, port, universes, patch, shortName, longName, seconds, record, fps, json})
         parser.addOption(o);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("listen"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("listen"), arguments))
+        return *done;
     const auto usageError = [](const QString &text) {
         printErr(QStringLiteral("talu-cli listen: ") + text);
         return int(ExitUsage);

@@ -75,11 +75,8 @@ int runLogCommand(const QStringList &arguments)
                                     QStringLiteral("Output file of --export."), QStringLiteral("out"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOptions({filter, exportOption, output, json});
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("log"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("log"), arguments))
+        return *done;
     if (parser.positionalArguments().size() != 1) {
         printErr(QStringLiteral("talu-cli log: give exactly one log file."));
         return ExitUsage;

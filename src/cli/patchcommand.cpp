@@ -56,11 +56,8 @@ int runPatchCommand(const QStringList &arguments)
                                         QStringLiteral("dir"));
     parser.addOption(reportOption);
     parser.addOption(logsOption);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("patch"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("patch"), arguments))
+        return *done;
     if (parser.positionalArguments().size() != 1) {
         printErr(QStringLiteral("talu-cli patch: give exactly one patch file."));
         return ExitUsage;

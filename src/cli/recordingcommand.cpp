@@ -40,11 +40,8 @@ int runRecordingCommand(const QStringList &arguments)
     parser.addOption(patchOption);
     parser.addOption(quiet);
     parser.addOption(json);
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("recording"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("recording"), arguments))
+        return *done;
     if (parser.positionalArguments().size() != 1) {
         printErr(QStringLiteral("talu-cli recording: give exactly one recording file."));
         return ExitUsage;

@@ -93,11 +93,8 @@ int runRenderCommand(const QStringList &arguments)
                                     QStringLiteral("The PNG file to write."), QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object."));
     parser.addOptions({patch, recording, frame, view, white, size, yaw, pitch, fast, axes, output, json});
-    bool helpShown = false;
-    if (!parseCommandLine(parser, QStringLiteral("render"), arguments, &helpShown))
-        return ExitUsage;
-    if (helpShown)
-        return ExitOk;
+    if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("render"), arguments))
+        return *done;
 
     auto usage = [](const QString &text) {
         printErr(QStringLiteral("talu-cli render: ") + text);
