@@ -51,7 +51,7 @@ int main(int argc, char *argv[])
     translator.install(*app);
     translator.applyLanguage(settings->value(SettingsKey::language, Translator::defaultLanguageId()).toString());
 
-    auto window = std::make_unique<MainWindow>();
+    auto window = std::make_unique<MainWindow>(&style);
     auto updates = std::make_unique<UpdateController>(window.get());
     updates->startBackgroundCheck();
 

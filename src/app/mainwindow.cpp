@@ -5,10 +5,16 @@
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
-#include "panels/patchbar.h"
-#include "panels/placeholderpanel.h"
+#include "artnet/widgets/broadcastpanel.h"
 #include "packetlog/packetjournal.h"
+#include "panels/gpsplaybackpanel.h"
+#include "panels/groupfilterpanel.h"
+#include "panels/patchbar.h"
+#include "panels/patchsummarypanel.h"
+#include "panels/playbackpanel.h"
 #include "panels/statuslabel.h"
+#include "recording/gpspatchexpectation.h"
+#include "style/moxstyle.h"
 #include "patch/patchloader.h"
 #include "recording/playbackclock.h"
 #include "recording/recording.h"
@@ -49,8 +55,12 @@ constexpr int kFrontPreset = 0;
 
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
+MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), m_style(style)
 {
+    if (!m_style) {
+        m_ownStyle = std::make_unique<MoxStyle>();
+        m_style = m_ownStyle.get();
+    }
     setWindowTitle(QStringLiteral("Torvane TALU"));
     resize(1420, 880);
 
@@ -60,6 +70,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 
     buildCentralWidget();
     wireMonitorBar();
+    wireGroupFilter();
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
     retranslateUi();
 
@@ -126,11 +137,14 @@ QWidget *MainWindow::buildLeftColumn()
 
     m_sourceStack = new QStackedWidget(column);
     m_playbackTabs = new QTabWidget(m_sourceStack);
-    m_playbackPanel = new PlaceholderPanel(QStringLiteral("PlaybackPanel"), QStringLiteral("Playback panel"));
-    m_gpsPanel = new PlaceholderPanel(QStringLiteral("GpsPlaybackPanel"), QStringLiteral("GPS playback panel"));
+    m_playbackPanel = new PlaybackPanel;
+    m_gpsPanel = new GpsPlaybackPanel(m_style);
     m_playbackTabs->addTab(m_playbackPanel, QString());
     m_playbackTabs->addTab(m_gpsPanel, QString());
-    m_broadcastPanel = new PlaceholderPanel(QStringLiteral("BroadcastPanel"), QStringLiteral("Broadcast panel"));
+    m_broadcastPanel = new BroadcastPanel;
+    m_broadcastPanel->refreshInterfaces();
+    connect(m_playbackPanel, &PlaybackPanel::loadRequested, this, &MainWindow::onRecordingLoadRequested);
+    connect(m_playbackPanel, &PlaybackPanel::playPauseRequested, this, &MainWindow::onPlayPause);
     m_sourceStack->insertWidget(RecordedPage, m_playbackTabs);
     m_sourceStack->insertWidget(BroadcastPage, m_broadcastPanel);
     layout->addWidget(m_sourceStack);
@@ -140,8 +154,8 @@ QWidget *MainWindow::buildLeftColumn()
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
     m_sideTabs = new QTabWidget(scroll);
-    m_groupPanel = new PlaceholderPanel(QStringLiteral("GroupFilterPanel"), QStringLiteral("Group filter panel"));
-    m_summaryPanel = new PlaceholderPanel(QStringLiteral("PatchSummaryPanel"), QStringLiteral("Patch summary panel"));
+    m_groupPanel = new GroupFilterPanel;
+    m_summaryPanel = new PatchSummaryPanel(m_style);
     m_dmxInspector = new DmxInspector;
     m_dmxInspector->setObjectName(QStringLiteral("DmxInspector"));
     m_sideTabs->insertTab(GroupsTab, m_groupPanel, QString());
@@ -213,6 +227,22 @@ void MainWindow::wireMonitorBar()
     connect(m_dmxInspector, &DmxInspector::universeChanged, this, &MainWindow::onInspectedUniverseChanged);
 }
 
+void MainWindow::wireGroupFilter()
+{
+    connect(m_groupPanel, &GroupFilterPanel::allVisibilityChanged, m_view2d, &LedMonitorView::setAllVisible);
+    connect(m_groupPanel, &GroupFilterPanel::groupVisibilityChanged, m_view2d, &LedMonitorView::setGroupVisible);
+    connect(m_groupPanel, &GroupFilterPanel::torvoverseVisibilityChanged, m_view2d,
+            &LedMonitorView::setTorvoverseVisible);
+    connect(m_groupPanel, &GroupFilterPanel::visibleZChanged, m_view2d, &LedMonitorView::setVisibleZ);
+    connect(m_groupPanel, &GroupFilterPanel::highlightTorvoverseChanged, m_view2d, &LedMonitorView::setHighlight);
+    // The 3D view draws every Z layer at its depth, so it takes all but the layer choice.
+    connect(m_groupPanel, &GroupFilterPanel::allVisibilityChanged, m_view3d, &Led3DView::setAllVisible);
+    connect(m_groupPanel, &GroupFilterPanel::groupVisibilityChanged, m_view3d, &Led3DView::setGroupVisible);
+    connect(m_groupPanel, &GroupFilterPanel::torvoverseVisibilityChanged, m_view3d,
+            &Led3DView::setTorvoverseVisible);
+    connect(m_groupPanel, &GroupFilterPanel::highlightTorvoverseChanged, m_view3d, &Led3DView::setHighlight);
+}
+
 void MainWindow::pushMonitor()
 {
     m_view2d->refresh();
@@ -271,7 +301,6 @@ void MainWindow::onSaveSnapshot()
 
 void MainWindow::retranslateUi()
 {
-    m_patchBar->retranslate();
     m_sourceBox->setTitle(tr("Source"));
     m_recordedRadio->setText(tr("Recorded playback"));
     m_recordedRadio->setToolTip(tr("Play a .tpx recording. A patch is optional: without one the monitor stays "
@@ -353,8 +382,19 @@ StoredSettings MainWindow::currentSettings() const
 {
     StoredSettings v = m_kept;
     v.patchLastPath = m_patchBar->path();
-    // The GPS panel has no group rows yet, so the remembered set is written back unchanged.
-    v.gpsPaths = m_rememberedGpsPaths;
+    v.playbackLastPath = m_playbackPanel->path();
+    v.playbackFps = m_playbackPanel->fps();
+    v.gpsFps = m_gpsPanel->fps();
+    v.gpsLoop = m_gpsPanel->loop();
+    // Without group rows (no patch yet) the remembered set is written back
+    // unchanged, so starting without a patch never erases it.
+    v.gpsPaths = m_gpsPanel->groupCount() > 0 ? m_gpsPanel->paths() : m_rememberedGpsPaths;
+    v.broadcastAddress = m_broadcastPanel->address();
+    v.broadcastShortName = m_broadcastPanel->identity().shortName;
+    v.broadcastLongName = m_broadcastPanel->identity().longName;
+    v.broadcastRecordDir = m_broadcastPanel->recordFolder();
+    v.broadcastRecordName = m_broadcastPanel->recordName();
+    v.broadcastRecordFps = m_broadcastPanel->recordFps();
     v.playbackTab = m_playbackTabs->currentIndex();
     v.whiteChannels = m_whiteCheck->isChecked();
     v.fastDraw3D = m_fastDrawCheck->isChecked();
@@ -369,7 +409,16 @@ void MainWindow::loadSettings()
     const StoredSettings v = readStoredSettings(*settings);
     m_kept = v;
     m_patchBar->setPath(v.patchLastPath);
+    m_playbackPanel->setPath(v.playbackLastPath);
+    m_playbackPanel->setFps(v.playbackFps);
+    m_gpsPanel->setFps(v.gpsFps);
+    m_gpsPanel->setLoop(v.gpsLoop);
     m_rememberedGpsPaths = v.gpsPaths;
+    m_broadcastPanel->setAddress(v.broadcastAddress);
+    m_broadcastPanel->setNames(v.broadcastShortName, v.broadcastLongName);
+    m_broadcastPanel->setRecordFolder(v.broadcastRecordDir);
+    m_broadcastPanel->setRecordName(v.broadcastRecordName);
+    m_broadcastPanel->setRecordFps(v.broadcastRecordFps);
     m_whiteCheck->setChecked(v.whiteChannels);
     m_fastDrawCheck->setChecked(v.fastDraw3D);
     m_view3d->setFastDraw(m_fastDrawCheck->isChecked());
@@ -442,6 +491,11 @@ void MainWindow::onUploadRequested(const QString &path)
     m_view3d->setPatch(m_layout);
     m_dmxInspector->setPixelLayout(&m_layout);
     m_dmxInspector->setUniverses(QVector<quint16>(m_layout.portAddressPixels.keyBegin(), m_layout.portAddressPixels.keyEnd()));
+    m_groupPanel->setPatch(m_patch, m_layout);
+    m_summaryPanel->setPatch(m_patch, m_layout, result.warnings + m_layout.warnings);
+    m_gpsPanel->setGroups(GpsPanelGroup::fromExpectation(GpsPatchExpectation::fromPatch(m_patch)));
+    m_gpsPanel->setPaths(m_rememberedGpsPaths);
+    m_broadcastPanel->setPatchLoaded(true);
     pushMonitor();
     const QString fileName = QFileInfo(path).fileName();
     const qint64 warnings = result.warnings.size();
@@ -474,7 +528,7 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
         showStatus([path] { return tr("File not found: %1").arg(path); }, 5000);
         return;
     }
-    m_kept.playbackLastPath = path;
+    m_playbackPanel->setPath(path);
     m_clock->stop();
     const RecordingLoadResult result = m_recording->load(path, m_patchLoaded ? &m_patch : nullptr);
     if (!result.ok) {
@@ -482,7 +536,7 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
         showStatus([error] { return error.text(); }, 0);
         return;
     }
-    const int fps = std::max(1, m_kept.playbackFps);
+    const int fps = m_playbackPanel->fps();
     m_clock->setFrameCount(m_recording->frameCount());
     m_clock->setFps(fps);
     m_clock->seek(0);
@@ -534,7 +588,7 @@ void MainWindow::onPlayPause()
         showStatus([] { return tr("Playback paused."); }, 0);
         return;
     }
-    m_clock->setFps(std::max(1, m_kept.playbackFps));
+    m_clock->setFps(m_playbackPanel->fps());
     m_clock->setLoop(true);
     m_clock->setFrameCount(m_recording->frameCount());
     m_clock->seek(m_currentFrame);

@@ -21,8 +21,13 @@ class QTabWidget;
 class DmxInspector;
 class Led3DView;
 class LedMonitorView;
+class BroadcastPanel;
+class GpsPlaybackPanel;
+class GroupFilterPanel;
+class MoxStyle;
 class PatchBar;
-class PlaceholderPanel;
+class PatchSummaryPanel;
+class PlaybackPanel;
 class PlaybackClock;
 class Recording;
 namespace PacketLog {
@@ -37,7 +42,9 @@ class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    // style: the theme engine the panels take their colours from (not owned;
+    // nullptr makes the window keep a default one of its own).
+    explicit MainWindow(MoxStyle *style = nullptr, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     // The single way any workflow reports on the status line. The producer is
@@ -86,6 +93,7 @@ private:
     void retranslateUi();
     void applySourceMode();
     void wireMonitorBar();
+    void wireGroupFilter();
     // Hands the colour buffer's current lists to both views and the inspected
     // universe's bytes to the inspector.
     void pushMonitor();
@@ -97,12 +105,12 @@ private:
     QRadioButton *m_liveRadio = nullptr;
     QStackedWidget *m_sourceStack = nullptr;
     QTabWidget *m_playbackTabs = nullptr;
-    PlaceholderPanel *m_playbackPanel = nullptr;
-    PlaceholderPanel *m_gpsPanel = nullptr;
-    PlaceholderPanel *m_broadcastPanel = nullptr;
+    PlaybackPanel *m_playbackPanel = nullptr;
+    GpsPlaybackPanel *m_gpsPanel = nullptr;
+    BroadcastPanel *m_broadcastPanel = nullptr;
     QTabWidget *m_sideTabs = nullptr;
-    PlaceholderPanel *m_groupPanel = nullptr;
-    PlaceholderPanel *m_summaryPanel = nullptr;
+    GroupFilterPanel *m_groupPanel = nullptr;
+    PatchSummaryPanel *m_summaryPanel = nullptr;
     DmxInspector *m_dmxInspector = nullptr;
 
     // Right area
@@ -119,7 +127,9 @@ private:
     LedMonitorView *m_view2d = nullptr;
     Led3DView *m_view3d = nullptr;
 
-    // Values loaded for panels that do not exist yet; saved back unchanged.
+    MoxStyle *m_style = nullptr;
+    std::unique_ptr<MoxStyle> m_ownStyle;
+    // Values kept by the window itself rather than a widget ("monitor/lastSnapshotDir").
     StoredSettings m_kept;
     // "gps/paths" as last loaded, written back while the GPS panel has no rows.
     QStringList m_rememberedGpsPaths;

@@ -156,7 +156,8 @@ void Monitor3DScene::forEachVisiblePoint(const QRectF &cull, DrawSquare draw)
     const double left = cull.left(), right = cull.right(), top = cull.top(), bottom = cull.bottom();
     for (qsizetype step = 0; step < steps; ++step) {
         const qsizetype i = m_drawOrder.isEmpty() ? step : order[step];
-        if (i < 0 || i >= count)
+        // Alpha 0 marks a point the group filter hides; live colours are opaque.
+        if (i < 0 || i >= count || qAlpha(colours[i]) == 0)
             continue;
         const Point3 q = rot.apply(points[i].x, points[i].y, points[i].z);
         if (!(q.z + distance > Camera3D::kNearPlane))

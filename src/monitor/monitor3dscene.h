@@ -25,7 +25,7 @@ public:
     void setModel(const QVector<Point3> &positions, const QVector<Kinetic3> &kinetics, double worldScale,
                   double ledRadius);
     // Replace the colours / kinetic values in place; ignored (false) when the
-    // count differs from the model's.
+    // count differs from the model's. A colour with alpha 0 is not drawn.
     bool setColours(const QVector<QRgb> &colours);
     bool setKineticValues(const QVector<float> &values);
 

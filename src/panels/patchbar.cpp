@@ -3,6 +3,7 @@
 #include "panels/statuslabel.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -17,12 +18,14 @@ PatchBar::PatchBar(QWidget *parent) : QWidget(parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     m_caption = new QLabel(this);
+    m_caption->setObjectName(QStringLiteral("patchCaption"));
     layout->addWidget(m_caption);
 
     auto *row = new QHBoxLayout;
     row->setSpacing(6);
     m_pathEdit = new QLineEdit(this);
     m_pathEdit->setClearButtonEnabled(true);
+    m_caption->setBuddy(m_pathEdit);
     m_browse = new QToolButton(this);
     m_upload = new QPushButton(this);
     m_upload->setMinimumWidth(96);
@@ -38,18 +41,27 @@ PatchBar::PatchBar(QWidget *parent) : QWidget(parent)
     connect(m_upload, &QPushButton::clicked, this, &PatchBar::onUpload);
     connect(m_pathEdit, &QLineEdit::returnPressed, this, &PatchBar::onUpload);
     connect(m_browse, &QToolButton::clicked, this, &PatchBar::onBrowse);
-    retranslate();
+    retranslateUi();
 }
 
-void PatchBar::retranslate()
+void PatchBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QWidget::changeEvent(event);
+}
+
+void PatchBar::retranslateUi()
 {
     m_caption->setText(tr("Patch File"));
     m_pathEdit->setPlaceholderText(tr("Path to a patch file (.tpatch, .mpz, .elm)"));
     m_browse->setText(tr("..."));
     m_browse->setToolTip(tr("Browse for a patch file"));
+    // "..." says nothing to a screen reader; the tooltip says what it does.
+    m_browse->setAccessibleName(m_browse->toolTip());
+    m_pathEdit->setAccessibleName(tr("Patch file path"));
     m_upload->setToolTip(tr("Load the patch and build the monitor"));
     m_upload->setText(m_busy ? tr("Loading...") : tr("Upload"));
-    m_status->retranslate();
 }
 
 void PatchBar::setBusy(bool busy)

@@ -11,7 +11,8 @@ class StatusLabel;
 // The small widget through which the user names the patch file to load. It
 // loads nothing itself: it hands a trimmed path to the main window through
 // uploadRequested, and the main window shows the busy state while loading.
-// GUI thread only.
+// The status line takes message levels (0 information, 2 error) and leaves
+// their colours to the theme. GUI thread only.
 class PatchBar : public QWidget
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
 
     void setBusy(bool busy);
     bool isBusy() const { return m_busy; }
-    void retranslate();
+    void retranslateUi();
 
     StatusLabel *statusLabel() const { return m_status; }
     QString path() const;
@@ -32,6 +33,9 @@ signals:
 public slots:
     void onUpload();
     void onBrowse();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
     QLabel *m_caption = nullptr;

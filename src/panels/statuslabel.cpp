@@ -1,5 +1,6 @@
 #include "panels/statuslabel.h"
 
+#include <QEvent>
 #include <QStyle>
 
 StatusLabel::StatusLabel(QWidget *parent) : QLabel(parent)
@@ -23,4 +24,11 @@ void StatusLabel::retranslate()
 {
     if (m_producer)
         setText(m_producer());
+}
+
+void StatusLabel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QLabel::changeEvent(event);
 }

@@ -47,3 +47,11 @@ QString deviceName(qint32 device)
 }
 
 } // namespace TPatch
+
+QString TPatch::targetIpText(const Torvoverse &torvoverse)
+{
+    const QVector<qint32> &ip = torvoverse.targetIP;
+    if (ip.size() < 4)
+        return QStringLiteral("0.0.0.0");
+    return QStringLiteral("%1.%2.%3.%4").arg(ip[0]).arg(ip[1]).arg(ip[2]).arg(ip[3]);
+}

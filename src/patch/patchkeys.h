@@ -31,6 +31,10 @@ struct KineticChannel
 // its width (1, or 2 when 16-bit).
 KineticChannel kineticChannel(const LedRecord &record);
 
+// The target IP as the panels show it, "10.0.0.1"; "0.0.0.0" when fewer than
+// four octets are known.
+QString targetIpText(const Torvoverse &torvoverse);
+
 // The device family name for PatchData::device: "ARTNET", "KEL6S", ... or
 // "Device #%1" for codes outside the known list.
 QString deviceName(qint32 device);

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace {
 
@@ -18,12 +20,14 @@ struct NamedColour
 constexpr NamedColour kDark[] = {
     {"window", "#1e2227"},   {"base", "#15181c"},   {"text", "#e3e6ea"},    {"mutedText", "#9aa3ad"},
     {"button", "#2b3036"},   {"accent", "#f08220"}, {"border", "#3a4047"},  {"info", "#9fd4a3"},
-    {"warning", "#f2c14e"},  {"error", "#ff6b6b"},  {"highlight", "#3d6ea8"},
+    {"warning", "#f2c14e"},  {"error", "#ff6b6b"},  {"highlight", "#3d6ea8"}, {"success", "#6fcf73"},
+    {"hint", "#b8c4d0"},
 };
 constexpr NamedColour kLight[] = {
     {"window", "#eef0f2"},   {"base", "#ffffff"},   {"text", "#1b1f24"},    {"mutedText", "#5b6570"},
     {"button", "#e1e4e8"},   {"accent", "#c25e00"}, {"border", "#b8bfc7"},  {"info", "#2e7d32"},
-    {"warning", "#9a6b00"},  {"error", "#c62828"},  {"highlight", "#3d6ea8"},
+    {"warning", "#9a6b00"},  {"error", "#c62828"},  {"highlight", "#3d6ea8"}, {"success", "#2e7d32"},
+    {"hint", "#3b4650"},
 };
 
 const char *const kStyleSheet = R"(
@@ -43,6 +47,12 @@ QStatusBar { background: {base}; color: {mutedText}; }
 StatusLabel[msgLevel="0"] { color: {info}; }
 StatusLabel[msgLevel="1"] { color: {warning}; }
 StatusLabel[msgLevel="2"] { color: {error}; }
+QLabel[labelRole="hint"] { color: {hint}; }
+QLabel[labelRole="muted"] { color: {mutedText}; }
+QLabel[labelRole="accent"] { color: {accent}; }
+QLabel[labelRole="success"] { color: {success}; }
+QLabel[labelRole="warning"] { color: {warning}; }
+QLabel[labelRole="error"] { color: {error}; }
 )";
 
 } // namespace
@@ -113,6 +123,59 @@ QColor MoxStyle::messageColour(MsgLevel level) const
         break;
     }
     return colour(QStringLiteral("info"));
+}
+
+QColor MoxStyle::roleColour(LabelRole role) const
+{
+    switch (role) {
+    case Hint:
+        return colour(QStringLiteral("hint"));
+    case Muted:
+        return colour(QStringLiteral("mutedText"));
+    case Accent:
+        return colour(QStringLiteral("accent"));
+    case Success:
+        return colour(QStringLiteral("success"));
+    case WarningRole:
+        return colour(QStringLiteral("warning"));
+    case ErrorRole:
+        return colour(QStringLiteral("error"));
+    case Normal:
+        break;
+    }
+    return colour(QStringLiteral("text"));
+}
+
+QString MoxStyle::labelRoleName(LabelRole role)
+{
+    switch (role) {
+    case Hint:
+        return QStringLiteral("hint");
+    case Muted:
+        return QStringLiteral("muted");
+    case Accent:
+        return QStringLiteral("accent");
+    case Success:
+        return QStringLiteral("success");
+    case WarningRole:
+        return QStringLiteral("warning");
+    case ErrorRole:
+        return QStringLiteral("error");
+    case Normal:
+        break;
+    }
+    return QStringLiteral("normal");
+}
+
+void MoxStyle::setLabelRole(QWidget *label, LabelRole role)
+{
+    const QString name = labelRoleName(role);
+    if (label->property("labelRole").toString() == name)
+        return;
+    label->setProperty("labelRole", name);
+    // The style sheet selects on the property; a change shows only after a re-polish.
+    label->style()->unpolish(label);
+    label->style()->polish(label);
 }
 
 QString MoxStyle::expandTemplate(const QString &styleSheetTemplate) const

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 class QApplication;
+class QWidget;
 
 // The theme engine: named palettes, a style-sheet template whose placeholders
 // name a palette role ("{window}", optionally with an alpha percentage
@@ -20,6 +21,10 @@ public:
     // Severity of a panel message or status text.
     enum MsgLevel { Info = 0, Warning = 1, Error = 2 };
     Q_ENUM(MsgLevel)
+    // What a label says about its text; the style sheet colours a label by the
+    // "labelRole" property, rich text asks roleColour for the same colour.
+    enum LabelRole { Normal, Hint, Muted, Accent, Success, WarningRole, ErrorRole };
+    Q_ENUM(LabelRole)
 
     explicit MoxStyle(QObject *parent = nullptr);
 
@@ -34,6 +39,11 @@ public:
 
     QColor colour(const QString &role) const;
     QColor messageColour(MsgLevel level) const;
+    QColor roleColour(LabelRole role) const;
+    // The "labelRole" property value the style sheet selects on ("warning", ...).
+    static QString labelRoleName(LabelRole role);
+    // Sets a label's role and re-polishes it so the style sheet's colour shows.
+    static void setLabelRole(QWidget *label, LabelRole role);
     // "{role}" and "{role@percent}" replaced by the palette's colours.
     QString expandTemplate(const QString &styleSheetTemplate) const;
 

@@ -34,6 +34,7 @@ private slots:
     void dragsTurnAndPan();
     void coloursAndKineticsFollowTheMaps();
     void resizeRefitsAroundTheOrigin();
+    void groupFilterHidesAndDims();
 
 private:
     Led3DView *m_view = nullptr;
@@ -120,6 +121,34 @@ void TestLed3DView::resizeRefitsAroundTheOrigin()
     QCOMPARE(fitted.distance, expected.distance);
     const QImage picture = m_view->snapshot();
     QCOMPARE(picture.size(), m_view->viewport()->size());
+}
+
+void TestLed3DView::groupFilterHidesAndDims()
+{
+    // Group 0 holds torvoverses 0 and 1, group 1 one torvoverse; every point red.
+    m_view->setPatch(layoutOf({square(0, 0, 10, 0, 0), square(50, 0, 10, 0, 1), square(100, 40, 10, 1, 0)}));
+    const QRgb red = 0xFFFF0000;
+    const QRgb dimmed = QColor::fromRgb(red).darker(260).rgba();
+    m_view->setColours({red, red, red});
+    const Monitor3DScene &scene = m_view->renderer()->scene3d();
+    m_view->setTorvoverseVisible(0, 1, false);
+    QCOMPARE(scene.colours(), (QVector<QRgb>{red, 0, red}));
+    m_view->setGroupVisible(1, false);
+    QCOMPARE(scene.colours(), (QVector<QRgb>{red, 0, 0}));
+    m_view->setHighlight(0, 0);
+    QCOMPARE(scene.colours(), (QVector<QRgb>{red, 0, 0}));
+    m_view->setAllVisible(true);
+    QCOMPARE(scene.colours(), (QVector<QRgb>{red, dimmed, dimmed}));
+    m_view->setHighlight(-1, -1);
+    m_view->setAllVisible(false);
+    QCOMPARE(scene.colours(), (QVector<QRgb>{0, 0, 0}));
+    // Hidden points are not drawn at all: no red anywhere in the picture.
+    const QImage picture = m_view->snapshot().convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            QVERIFY(qRed(picture.pixel(x, y)) < 128 || qGreen(picture.pixel(x, y)) > 64);
+    m_view->setColours({0xFF00FF00, red, red}); // new colours keep the filter
+    QCOMPARE(scene.colours(), (QVector<QRgb>{0, 0, 0}));
 }
 
 QTEST_MAIN(TestLed3DView)

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QRgb kDark = 0xFF000000;
@@ -51,6 +53,8 @@ void Led3DView::setPatch(const TPatch::PixelLayout &layout)
     m_pointPixels = model.pointPixels;
     m_kineticPixels = model.kineticPixels;
     m_pointColours = QVector<QRgb>(model.positions.size(), kDark);
+    m_rawColours = m_pointColours;
+    m_filter.setPoints(layout.pixels, m_pointPixels);
     m_kineticScratch = QVector<float>(model.kinetics.size(), 0.0f);
     m_renderer->scene3d().setModel(model.positions, model.kinetics, model.worldScale, model.ledRadius);
     fitCamera();
@@ -58,13 +62,46 @@ void Led3DView::setPatch(const TPatch::PixelLayout &layout)
 
 void Led3DView::setColours(const QVector<QRgb> &colours)
 {
-    QRgb *out = m_pointColours.data();
+    QRgb *out = m_rawColours.data();
     for (qsizetype i = 0; i < m_pointPixels.size(); ++i) {
         const int p = m_pointPixels.at(i);
         out[i] = p >= 0 && p < colours.size() ? colours.at(p) : kDark;
     }
+    showFilteredColours();
+}
+
+void Led3DView::showFilteredColours()
+{
+    if (m_filter.isIdentity())
+        std::copy(m_rawColours.cbegin(), m_rawColours.cend(), m_pointColours.begin());
+    else
+        m_filter.apply(m_rawColours.constData(), m_pointColours.data(), m_pointColours.size());
     if (m_renderer->scene3d().setColours(m_pointColours))
         repaint3d();
+}
+
+void Led3DView::setAllVisible(bool visible)
+{
+    m_filter.setAllVisible(visible);
+    showFilteredColours();
+}
+
+void Led3DView::setGroupVisible(int group, bool visible)
+{
+    m_filter.setGroupVisible(group, visible);
+    showFilteredColours();
+}
+
+void Led3DView::setTorvoverseVisible(int group, int torvoverse, bool visible)
+{
+    m_filter.setTorvoverseVisible(group, torvoverse, visible);
+    showFilteredColours();
+}
+
+void Led3DView::setHighlight(int group, int torvoverse)
+{
+    m_filter.setHighlight(group, torvoverse);
+    showFilteredColours();
 }
 
 void Led3DView::setKinetics(const QVector<float> &kineticValues)

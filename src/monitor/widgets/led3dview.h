@@ -1,6 +1,7 @@
 #pragma once
 
 #include "monitor/camera3d.h"
+#include "monitor/pointfilter3d.h"
 #include "patch/pixellayout.h"
 
 #include <QGraphicsView>
@@ -27,6 +28,12 @@ public:
     // The colour buffer's lists, indexed by pixel number.
     void setColours(const QVector<QRgb> &colours);
     void setKinetics(const QVector<float> &kineticValues);
+
+    // The group filter's inputs (Z layers stay apart in depth and are all drawn).
+    void setAllVisible(bool visible);
+    void setGroupVisible(int group, bool visible);
+    void setTorvoverseVisible(int group, int torvoverse, bool visible);
+    void setHighlight(int group, int torvoverse);
 
     void setShowAxes(bool on);
     void setFastDraw(bool on);
@@ -62,6 +69,7 @@ protected:
 private:
     Camera3D &cam();
     void repaint3d();
+    void showFilteredColours();
 
     QGraphicsScene *m_scene = nullptr;
     Led3DRenderer *m_renderer = nullptr;
@@ -71,6 +79,8 @@ private:
     Qt::MouseButton m_dragButton = Qt::NoButton;
     QVector<int> m_pointPixels;
     QVector<int> m_kineticPixels;
-    QVector<QRgb> m_pointColours;  // scratch, sized with the model
+    PointFilter3D m_filter;
+    QVector<QRgb> m_rawColours;    // per point, as the colour buffer has them
+    QVector<QRgb> m_pointColours;  // scratch, sized with the model: the filtered colours
     QVector<float> m_kineticScratch;
 };
