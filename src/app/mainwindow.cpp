@@ -7,6 +7,8 @@
 #include "monitor/widgets/ledmonitorview.h"
 #include "artnet/widgets/broadcastpanel.h"
 #include "packetlog/packetjournal.h"
+#include "panels/currentpagestack.h"
+#include "panels/currentpagetabs.h"
 #include "panels/gpsplaybackpanel.h"
 #include "panels/groupfilterpanel.h"
 #include "panels/patchbar.h"
@@ -135,8 +137,8 @@ QWidget *MainWindow::buildLeftColumn()
     connect(m_recordedRadio, &QRadioButton::toggled, this, &MainWindow::onModeChanged);
     layout->addWidget(m_sourceBox);
 
-    m_sourceStack = new QStackedWidget(column);
-    m_playbackTabs = new QTabWidget(m_sourceStack);
+    m_sourceStack = new CurrentPageStack(column);
+    m_playbackTabs = new CurrentPageTabs(m_sourceStack);
     m_playbackPanel = new PlaybackPanel;
     m_gpsPanel = new GpsPlaybackPanel(m_style);
     m_playbackTabs->addTab(m_playbackPanel, QString());

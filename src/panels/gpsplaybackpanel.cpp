@@ -17,6 +17,8 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 QVector<GpsPanelGroup> GpsPanelGroup::fromExpectation(const GpsPatchExpectation &expectation)
 {
     QVector<GpsPanelGroup> groups;
@@ -65,9 +67,9 @@ GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle *style, QWidget *parent) : QWi
     m_rowArea->setWidgetResizable(true);
     m_rowArea->setFrameShape(QFrame::NoFrame);
     m_rowArea->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
-    m_rowArea->setMinimumHeight(120);
+    m_rowArea->setMinimumHeight(72);
     m_rowArea->hide();
-    layout->addWidget(m_rowArea, 1);
+    layout->addWidget(m_rowArea, 2);
 
     auto *setButtons = new QHBoxLayout;
     setButtons->setSpacing(6);
@@ -90,8 +92,7 @@ GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle *style, QWidget *parent) : QWi
     layout->addWidget(m_reportTitle);
     m_report = new QTextBrowser(this);
     m_report->setObjectName(QStringLiteral("gpsReport"));
-    m_report->setMinimumHeight(90);
-    m_reportTitle->setBuddy(m_report);
+    m_report->setMinimumHeight(72);
     layout->addWidget(m_report, 1);
 
     m_transport = new PlaybackTransport(this);
@@ -112,6 +113,14 @@ GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle *style, QWidget *parent) : QWi
 }
 
 GpsPlaybackPanel::~GpsPlaybackPanel() = default;
+
+QSize GpsPlaybackPanel::sizeHint() const
+{
+    // Room for about two more group rows than the minimum shows.
+    constexpr int kExtraHeight = 120;
+    const QSize natural = QWidget::sizeHint();
+    return QSize(natural.width(), std::min(natural.height(), minimumSizeHint().height() + kExtraHeight));
+}
 
 void GpsPlaybackPanel::retranslateUi()
 {

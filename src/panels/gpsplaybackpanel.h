@@ -64,6 +64,9 @@ public:
     explicit GpsPlaybackPanel(const MoxStyle *style, QWidget *parent = nullptr);
     ~GpsPlaybackPanel() override;
 
+    // Modest: the rows and the report scroll, and the side tabs below need room too.
+    QSize sizeHint() const override;
+
     // Rebuilds the rows (empty paths, no information).
     void setGroups(const QVector<GpsPanelGroup> &groups);
     int groupCount() const { return int(m_rows.size()); }

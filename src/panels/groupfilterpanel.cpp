@@ -1,6 +1,7 @@
 #include "panels/groupfilterpanel.h"
 
 #include "patch/patchkeys.h"
+#include "patch/tpatchreader.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -53,7 +54,6 @@ GroupFilterPanel::GroupFilterPanel(QWidget *parent) : QWidget(parent)
     m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     m_tree->setMinimumHeight(160);
-    m_title->setBuddy(m_tree);
     layout->addWidget(m_tree, 1);
 
     auto *buttons = new QHBoxLayout;
@@ -194,7 +194,7 @@ void GroupFilterPanel::setPatch(const TPatch::PatchData &patch, const TPatch::Pi
             item->setData(0, SubNetRole, int(tv.subNet));
             item->setData(0, TargetIpRole, TPatch::targetIpText(tv));
             item->setText(0, tv.torvoverseName);
-            item->setText(1, QStringLiteral("0x%1").arg(port, 4, 16, QLatin1Char('0')));
+            item->setText(1, TPatch::formatPortAddress(port));
             showRowTexts(item);
             children.append(item);
         }

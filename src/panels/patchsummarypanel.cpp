@@ -1,6 +1,7 @@
 #include "panels/patchsummarypanel.h"
 
 #include "patch/patchkeys.h"
+#include "patch/tpatchreader.h"
 #include "style/moxstyle.h"
 
 #include <QEvent>
@@ -112,7 +113,6 @@ PatchSummaryPanel::PatchSummaryPanel(const MoxStyle *style, QWidget *parent) : Q
     m_view->setObjectName(QStringLiteral("summaryView"));
     m_view->setOpenLinks(false);
     m_view->setMinimumHeight(160);
-    m_title->setBuddy(m_view);
     layout->addWidget(m_view, 1);
     if (m_style)
         connect(m_style, &MoxStyle::themeChanged, this, &PatchSummaryPanel::retranslateUi);
@@ -224,8 +224,9 @@ QString PatchSummaryPanel::buildHtml() const
             if (u.lastChannel != u.firstChannel)
                 channels += QStringLiteral(" - %2").arg(u.lastChannel);
         }
-        rows += QStringLiteral("<tr><td>0x%1</td><td>%2/%3/%4</td><td>%5</td><td%6>%7</td><td>%8</td></tr>")
-                    .arg(u.portAddress, 4, 16, QLatin1Char('0'))
+        // formatPortAddress gives "0x" and four upper-case digits, as every other place shows it.
+        rows += QStringLiteral("<tr><td>%1</td><td>%2/%3/%4</td><td>%5</td><td%6>%7</td><td>%8</td></tr>")
+                    .arg(TPatch::formatPortAddress(u.portAddress))
                     .arg(u.net)
                     .arg(u.subNet)
                     .arg(u.universe)

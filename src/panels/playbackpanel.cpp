@@ -45,7 +45,6 @@ PlaybackPanel::PlaybackPanel(QWidget *parent) : QWidget(parent)
     m_message = new StatusLabel(this);
     m_message->setObjectName(QStringLiteral("playbackMessage"));
     layout->addWidget(m_message);
-    layout->addStretch(1);
 
     connect(m_browse, &QToolButton::clicked, this, &PlaybackPanel::onBrowse);
     connect(m_load, &QPushButton::clicked, this, [this] { emit loadRequested(m_pathEdit->text().trimmed()); });

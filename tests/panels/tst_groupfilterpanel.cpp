@@ -18,7 +18,7 @@ namespace {
 TPatch::PatchData twoGroupPatch()
 {
     TPatch::PatchData patch;
-    patch.groups = {group(QStringLiteral("Front"), {{QStringLiteral("Left"), 3, 2, 1, 2},
+    patch.groups = {group(QStringLiteral("Front"), {{QStringLiteral("Left"), 10, 2, 1, 2},
                                                     {QStringLiteral("Right"), 4, 2, 1, 1}}),
                     group(QString(), {{QString(), 21, 0, 0, 1, 0, {192, 168, 1}}})};
     return patch;
@@ -121,7 +121,7 @@ void TestGroupFilterPanel::rowsShowNamesAddressesAndTooltips()
     };
     const Row rows[] = {
         {front, "Front", "3 px", 0, -1, false, 1},
-        {front->child(0), "Left", "0x0123", 0, 0, false, 3},
+        {front->child(0), "Left", "0x012A", 0, 0, false, 10},
         {front->child(1), "Right", "0x0124", 0, 1, false, 4},
         {unnamed, "Group 2", "1 px", 1, -1, true, 2},
         {unnamed->child(0), "Universe 21", "0x0005", 1, 0, true, 21}, // only 4 bits of 21 reach the wire
@@ -138,7 +138,7 @@ void TestGroupFilterPanel::rowsShowNamesAddressesAndTooltips()
     }
     QCOMPARE(front->child(0)->data(0, GroupFilterPanel::NetRole).toInt(), 1);
     QCOMPARE(front->child(0)->data(0, GroupFilterPanel::SubNetRole).toInt(), 2);
-    QCOMPARE(front->child(0)->toolTip(0), QStringLiteral("Net 1 / SubNet 2 / Universe 3\nTarget IP 10.0.0.1\n"
+    QCOMPARE(front->child(0)->toolTip(0), QStringLiteral("Net 1 / SubNet 2 / Universe 10\nTarget IP 10.0.0.1\n"
                                                          "Select to highlight this universe on the monitor."));
     // Fewer than four octets: the address is unknown.
     QCOMPARE(unnamed->child(0)->data(0, GroupFilterPanel::TargetIpRole).toString(), QStringLiteral("0.0.0.0"));

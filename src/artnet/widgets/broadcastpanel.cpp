@@ -193,7 +193,6 @@ BroadcastPanel::BroadcastPanel(QWidget *parent) : QWidget(parent)
     m_recordMessage = new StatusLabel(this);
     m_recordMessage->setObjectName(QStringLiteral("recordMessage"));
     layout->addWidget(m_recordMessage);
-    layout->addStretch(1);
 
     m_listenMessage->showMessage([] { return tr("Not listening."); }, 0);
     m_recordMessage->showMessage([] { return tr("Not recording."); }, 0);
