@@ -13,7 +13,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QTextBrowser>
 
 #include <algorithm>
 #include <cstdio>
@@ -87,8 +86,8 @@ int main(int argc, char **argv)
 
     MoxStyle style;
     GroupFilterPanel filter;
-    PatchSummaryPanel summary(&style);
-    GpsPlaybackPanel gps(&style);
+    PatchSummaryPanel summary(style);
+    GpsPlaybackPanel gps(style);
     filter.resize(420, 600);
     summary.resize(420, 600);
     gps.resize(420, 800);

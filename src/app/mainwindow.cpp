@@ -140,7 +140,7 @@ QWidget *MainWindow::buildLeftColumn()
     m_sourceStack = new CurrentPageStack(column);
     m_playbackTabs = new CurrentPageTabs(m_sourceStack);
     m_playbackPanel = new PlaybackPanel;
-    m_gpsPanel = new GpsPlaybackPanel(m_style);
+    m_gpsPanel = new GpsPlaybackPanel(*m_style);
     m_playbackTabs->addTab(m_playbackPanel, QString());
     m_playbackTabs->addTab(m_gpsPanel, QString());
     m_broadcastPanel = new BroadcastPanel;
@@ -157,7 +157,7 @@ QWidget *MainWindow::buildLeftColumn()
     scroll->setStyleSheet(QStringLiteral("QScrollArea { background: transparent; }"));
     m_sideTabs = new QTabWidget(scroll);
     m_groupPanel = new GroupFilterPanel;
-    m_summaryPanel = new PatchSummaryPanel(m_style);
+    m_summaryPanel = new PatchSummaryPanel(*m_style);
     m_dmxInspector = new DmxInspector;
     m_dmxInspector->setObjectName(QStringLiteral("DmxInspector"));
     m_sideTabs->insertTab(GroupsTab, m_groupPanel, QString());

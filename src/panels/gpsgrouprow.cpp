@@ -18,8 +18,8 @@ QString colourSpan(const QColor &colour, const QString &text)
 
 } // namespace
 
-GpsGroupRow::GpsGroupRow(const MoxStyle *style, const GpsPanelGroup &group, QWidget *parent)
-    : QWidget(parent), m_style(style), m_group(group)
+GpsGroupRow::GpsGroupRow(const MoxStyle &style, const GpsPanelGroup &group, QWidget *parent)
+    : QWidget(parent), m_style(&style), m_group(group)
 {
     setObjectName(QStringLiteral("gpsRow"));
     auto *layout = new QGridLayout(this);

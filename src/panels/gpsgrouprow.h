@@ -16,7 +16,7 @@ class GpsGroupRow : public QWidget
 {
     Q_OBJECT
 public:
-    GpsGroupRow(const MoxStyle *style, const GpsPanelGroup &group, QWidget *parent = nullptr);
+    GpsGroupRow(const MoxStyle &style, const GpsPanelGroup &group, QWidget *parent = nullptr);
 
     QString path() const;
     void setPath(const QString &path); // emits nothing

@@ -46,7 +46,7 @@ GpsRowInfo GpsRowInfo::fromMember(const GpsSetMember &member)
     return info;
 }
 
-GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle *style, QWidget *parent) : QWidget(parent), m_style(style)
+GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle &style, QWidget *parent) : QWidget(parent), m_style(&style)
 {
     setObjectName(QStringLiteral("GpsPlaybackPanel"));
     auto *layout = new QVBoxLayout(this);
@@ -107,8 +107,7 @@ GpsPlaybackPanel::GpsPlaybackPanel(const MoxStyle *style, QWidget *parent) : QWi
     connect(m_transport, &PlaybackTransport::fpsChanged, this, &GpsPlaybackPanel::fpsChanged);
     connect(m_transport, &PlaybackTransport::loopChanged, this, &GpsPlaybackPanel::loopChanged);
     connect(m_transport, &PlaybackTransport::frameShown, this, &GpsPlaybackPanel::showFrameLine);
-    if (m_style)
-        connect(m_style, &MoxStyle::themeChanged, this, &GpsPlaybackPanel::retranslateUi);
+    connect(m_style, &MoxStyle::themeChanged, this, &GpsPlaybackPanel::retranslateUi);
     retranslateUi();
 }
 
@@ -169,7 +168,7 @@ void GpsPlaybackPanel::setGroups(const QVector<GpsPanelGroup> &groups)
     m_rows.clear();
     m_rows.reserve(groups.size());
     for (const GpsPanelGroup &group : groups) {
-        auto *row = new GpsGroupRow(m_style, group, container);
+        auto *row = new GpsGroupRow(*m_style, group, container);
         connect(row, &GpsGroupRow::pathEdited, this, &GpsPlaybackPanel::pathsChanged);
         rows->addWidget(row);
         m_rows.append(row);
@@ -182,8 +181,13 @@ void GpsPlaybackPanel::setGroups(const QVector<GpsPanelGroup> &groups)
 
 void GpsPlaybackPanel::setPaths(const QStringList &paths)
 {
-    for (int i = 0; i < m_rows.size(); ++i)
+    bool changed = false;
+    for (int i = 0; i < m_rows.size(); ++i) {
+        changed = changed || m_rows[i]->path() != paths.value(i);
         m_rows[i]->setPath(paths.value(i));
+    }
+    if (changed)
+        emit pathsChanged(); // once for the whole list
 }
 
 QStringList GpsPlaybackPanel::paths() const

@@ -61,7 +61,8 @@ class GpsPlaybackPanel : public QWidget
 {
     Q_OBJECT
 public:
-    explicit GpsPlaybackPanel(const MoxStyle *style, QWidget *parent = nullptr);
+    // style: the theme engine (not owned); it outlives the panel.
+    explicit GpsPlaybackPanel(const MoxStyle &style, QWidget *parent = nullptr);
     ~GpsPlaybackPanel() override;
 
     // Modest: the rows and the report scroll, and the side tabs below need room too.
@@ -70,7 +71,8 @@ public:
     // Rebuilds the rows (empty paths, no information).
     void setGroups(const QVector<GpsPanelGroup> &groups);
     int groupCount() const { return int(m_rows.size()); }
-    // One path per group in group order; missing entries are empty. Emits nothing.
+    // One path per group in group order; missing entries are empty. Emits
+    // pathsChanged once when any path differs from what the row held.
     void setPaths(const QStringList &paths);
     QStringList paths() const;
     void setRowInfo(int group, const GpsRowInfo &info);

@@ -1,13 +1,14 @@
 #include "panels/patchsummarypanel.h"
 
 #include "patch/patchkeys.h"
-#include "patch/tpatchreader.h"
 #include "style/moxstyle.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QStringList>
-#include <QTextBrowser>
+#include <QHeaderView>
+#include <QSortFilterProxyModel>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -64,7 +65,7 @@ PatchSummaryPanel::Summary PatchSummaryPanel::summarise(const TPatch::PatchData 
     }
     for (const TPatch::PatchGroup &group : patch.groups) {
         for (const TPatch::Torvoverse &tv : group.torvoverses) {
-            UniverseRow row;
+            UniverseTableModel::Row row;
             row.portAddress = TPatch::portAddress(tv);
             row.net = tv.Net;
             row.subNet = tv.subNet;
@@ -99,7 +100,12 @@ PatchSummaryPanel::Summary PatchSummaryPanel::summarise(const TPatch::PatchData 
     return s;
 }
 
-PatchSummaryPanel::PatchSummaryPanel(const MoxStyle *style, QWidget *parent) : QWidget(parent), m_style(style)
+int PatchSummaryPanel::Summary::channelLimit() const
+{
+    return std::min(selectedChLimit > 0 ? selectedChLimit : kDmxSlots, kDmxSlots);
+}
+
+PatchSummaryPanel::PatchSummaryPanel(const MoxStyle &style, QWidget *parent) : QWidget(parent), m_style(&style)
 {
     setObjectName(QStringLiteral("PatchSummaryPanel"));
     auto *layout = new QVBoxLayout(this);
@@ -109,13 +115,43 @@ PatchSummaryPanel::PatchSummaryPanel(const MoxStyle *style, QWidget *parent) : Q
     m_state = new QLabel(this);
     m_state->setObjectName(QStringLiteral("summaryState"));
     layout->addWidget(m_state);
-    m_view = new QTextBrowser(this);
-    m_view->setObjectName(QStringLiteral("summaryView"));
-    m_view->setOpenLinks(false);
-    m_view->setMinimumHeight(160);
-    layout->addWidget(m_view, 1);
-    if (m_style)
-        connect(m_style, &MoxStyle::themeChanged, this, &PatchSummaryPanel::retranslateUi);
+    m_text = new QLabel(this);
+    m_text->setObjectName(QStringLiteral("summaryText"));
+    m_text->setTextFormat(Qt::RichText);
+    m_text->setWordWrap(true);
+    m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(m_text);
+
+    m_tableTitle = new QLabel(this);
+    m_tableTitle->setObjectName(QStringLiteral("universesTitle"));
+    MoxStyle::setLabelRole(m_tableTitle, MoxStyle::Accent);
+    QFont bold = m_tableTitle->font();
+    bold.setBold(true);
+    m_tableTitle->setFont(bold);
+    layout->addWidget(m_tableTitle);
+    m_model = new UniverseTableModel(this);
+    m_sorted = new QSortFilterProxyModel(this);
+    m_sorted->setSourceModel(m_model);
+    m_sorted->setSortRole(UniverseTableModel::SortRole);
+    m_table = new QTableView(this);
+    m_table->setObjectName(QStringLiteral("universeTable"));
+    m_table->setModel(m_sorted);
+    m_table->setSortingEnabled(true);
+    m_table->sortByColumn(-1, Qt::AscendingOrder); // patch order until the user sorts
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 4);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    // Rows are alike; a sample is enough to size the columns.
+    m_table->horizontalHeader()->setResizeContentsPrecision(64);
+    m_table->setMinimumHeight(160);
+    layout->addWidget(m_table, 1);
+    connect(m_style, &MoxStyle::themeChanged, this, &PatchSummaryPanel::retranslateUi);
     retranslateUi();
 }
 
@@ -124,6 +160,7 @@ void PatchSummaryPanel::setPatch(const TPatch::PatchData &patch, const TPatch::P
 {
     m_summary = summarise(patch, layout, warnings);
     m_hasPatch = true;
+    m_model->setRows(m_summary.universes, m_summary.channelLimit());
     retranslateUi();
 }
 
@@ -131,17 +168,23 @@ void PatchSummaryPanel::clear()
 {
     m_summary = Summary();
     m_hasPatch = false;
+    m_model->setRows({}, m_summary.channelLimit());
     retranslateUi();
 }
 
 void PatchSummaryPanel::retranslateUi()
 {
     m_title->setText(tr("Patch Summary"));
-    m_view->setAccessibleName(tr("Patch Summary"));
     m_state->setText(m_hasPatch ? QString() : tr("No patch loaded."));
     m_state->setVisible(!m_hasPatch);
     m_html = buildHtml();
-    m_view->setHtml(m_html);
+    m_text->setText(m_html);
+    m_tableTitle->setText(tr("Universes"));
+    m_tableTitle->setVisible(m_hasPatch);
+    m_table->setAccessibleName(tr("Universes"));
+    m_table->setVisible(m_hasPatch);
+    m_model->setWarningColour(m_style->roleColour(MoxStyle::WarningRole));
+    m_model->retranslate();
 }
 
 void PatchSummaryPanel::changeEvent(QEvent *event)
@@ -208,31 +251,5 @@ QString PatchSummaryPanel::buildHtml() const
         html += QStringLiteral("</p>");
     }
 
-    html += QStringLiteral("<p><b style='color:%1'>%2</b><br><table cellspacing='0' cellpadding='2'><tr>"
-                           "<td><i>%3</i></td><td><i>%4</i></td><td><i>%5</i></td><td><i>%6</i></td>"
-                           "<td><i>%7</i></td></tr>")
-                .arg(accent, tr("Universes"), tr("port"), tr("net/sub/uni"), tr("pixels"), tr("channels"),
-                     tr("target IP"));
-    const int limit = std::min(s.selectedChLimit > 0 ? s.selectedChLimit : kDmxSlots, kDmxSlots);
-    const QString warnStyle = QStringLiteral(" style='color:%1'").arg(warning);
-    QString rows;
-    rows.reserve(s.universes.size() * 120);
-    for (const UniverseRow &u : s.universes) {
-        QString channels = QStringLiteral("-");
-        if (u.lastChannel > 0) {
-            channels = QString::number(u.firstChannel);
-            if (u.lastChannel != u.firstChannel)
-                channels += QStringLiteral(" - %2").arg(u.lastChannel);
-        }
-        // formatPortAddress gives "0x" and four upper-case digits, as every other place shows it.
-        rows += QStringLiteral("<tr><td>%1</td><td>%2/%3/%4</td><td>%5</td><td%6>%7</td><td>%8</td></tr>")
-                    .arg(TPatch::formatPortAddress(u.portAddress))
-                    .arg(u.net)
-                    .arg(u.subNet)
-                    .arg(u.universe)
-                    .arg(u.pixels)
-                    .arg(u.lastChannel > limit ? warnStyle : QString(), channels, u.targetIp);
-    }
-    html += rows + QStringLiteral("</table></p>");
     return html;
 }

@@ -113,12 +113,20 @@ void TestPanelAccessibility::everyControlHasAName_data()
                                                            MonitorTestData::square(0, 0, 4, 0, 0, 1)}));
         return panel;
     }) << "Z Layer";
-    QTest::newRow("patch summary") << PanelFactory([](const MoxStyle *s) { return new PatchSummaryPanel(s); })
-                                   << "Patch Summary";
+    QTest::newRow("patch summary") << PanelFactory([](const MoxStyle *s) { return new PatchSummaryPanel(*s); })
+                                   << "Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to see its structure, "
+                                      "universe list and channel ranges.";
+    QTest::newRow("patch summary, loaded") << PanelFactory([](const MoxStyle *s) {
+        auto *panel = new PatchSummaryPanel(*s);
+        TPatch::PatchData patch;
+        patch.groups = {PanelPatch::group(QStringLiteral("Front"), {{QStringLiteral("A")}})};
+        panel->setPatch(patch, MonitorTestData::layoutOf({MonitorTestData::square(0, 0, 4)}), {});
+        return panel;
+    }) << "Universes";
     QTest::newRow("playback") << PanelFactory([](const MoxStyle *) { return new PlaybackPanel; })
                               << "Browse for a .tpx recording";
     QTest::newRow("gps playback") << PanelFactory([](const MoxStyle *s) {
-        auto *panel = new GpsPlaybackPanel(s);
+        auto *panel = new GpsPlaybackPanel(*s);
         panel->setGroups({{QStringLiteral("Facade"), 2, true}, {QStringLiteral("Floor"), 1, true}});
         return panel;
     }) << "Recording for \"Floor\"";
@@ -153,7 +161,7 @@ void TestPanelAccessibility::buttonsWorkThroughTheirAccessibleAction()
     press(findByName(&playback, QAccessible::PushButton, QStringLiteral("Load")));
     QTRY_COMPARE(load.count(), 1); // the press action clicks the way a mouse does, a moment later
 
-    GpsPlaybackPanel gps(&m_style);
+    GpsPlaybackPanel gps(m_style);
     gps.setGroups({{QStringLiteral("Facade"), 2, true}});
     gps.show();
     QSignalSpy loadSet(&gps, &GpsPlaybackPanel::loadAllRequested);

@@ -132,9 +132,8 @@ BroadcastPanel::BroadcastPanel(QWidget *parent) : QWidget(parent)
     addressFields->addWidget(m_subLabel);
     addressFields->addWidget(m_sub);
     addressFields->addStretch(1);
-    auto *addressCaption = new QLabel(this);
-    addressCaption->setObjectName(QStringLiteral("addressCaption"));
-    form->addRow(addressCaption, addressFields);
+    m_addressCaption = new QLabel(this);
+    form->addRow(m_addressCaption, addressFields);
     layout->addLayout(form);
 
     m_listen = new QPushButton(this);
@@ -239,8 +238,7 @@ void BroadcastPanel::retranslateUi()
     m_shortName->setAccessibleName(tr("Short name"));
     m_longLabel->setText(tr("Long name"));
     m_longName->setAccessibleName(tr("Long name"));
-    if (auto *caption = findChild<QLabel *>(QStringLiteral("addressCaption")))
-        caption->setText(tr("Address"));
+    m_addressCaption->setText(tr("Address"));
     m_netLabel->setText(tr("Net"));
     m_net->setAccessibleName(tr("Net"));
     m_subLabel->setText(tr("Sub"));

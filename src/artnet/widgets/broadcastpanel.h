@@ -115,6 +115,7 @@ private:
     QLineEdit *m_shortName = nullptr;
     QLabel *m_longLabel = nullptr;
     QLineEdit *m_longName = nullptr;
+    QLabel *m_addressCaption = nullptr;
     QLabel *m_netLabel = nullptr;
     QSpinBox *m_net = nullptr;
     QLabel *m_subLabel = nullptr;
