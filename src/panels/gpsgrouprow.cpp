@@ -1,5 +1,6 @@
 #include "panels/gpsgrouprow.h"
 
+#include "panels/clearbutton.h"
 #include "style/moxstyle.h"
 
 #include <QFileDialog>
@@ -76,6 +77,7 @@ void GpsGroupRow::retranslateUi()
     m_caption->setAccessibleName(caption + QStringLiteral(", ") + note);
     m_path->setPlaceholderText(tr("Recording for \"%1\"").arg(caption));
     m_path->setAccessibleName(m_path->placeholderText());
+    nameClearButton(m_path, tr("Clear"));
     m_browse->setText(tr("..."));
     m_browse->setToolTip(tr("Browse for the recording of \"%1\"").arg(caption));
     m_browse->setAccessibleName(m_browse->toolTip());

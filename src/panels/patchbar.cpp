@@ -1,5 +1,6 @@
 #include "panels/patchbar.h"
 
+#include "panels/clearbutton.h"
 #include "panels/statuslabel.h"
 
 #include <QDir>
@@ -60,6 +61,7 @@ void PatchBar::retranslateUi()
     // "..." says nothing to a screen reader; the tooltip says what it does.
     m_browse->setAccessibleName(m_browse->toolTip());
     m_pathEdit->setAccessibleName(tr("Patch file path"));
+    nameClearButton(m_pathEdit, tr("Clear"));
     m_upload->setToolTip(tr("Load the patch and build the monitor"));
     m_upload->setText(m_busy ? tr("Loading...") : tr("Upload"));
 }

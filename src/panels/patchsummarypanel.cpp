@@ -126,9 +126,6 @@ PatchSummaryPanel::PatchSummaryPanel(const MoxStyle &style, QWidget *parent) : Q
     m_tableTitle = new QLabel(this);
     m_tableTitle->setObjectName(QStringLiteral("universesTitle"));
     MoxStyle::setLabelRole(m_tableTitle, MoxStyle::Accent);
-    QFont bold = m_tableTitle->font();
-    bold.setBold(true);
-    m_tableTitle->setFont(bold);
     layout->addWidget(m_tableTitle);
     m_model = new UniverseTableModel(this);
     m_sorted = new QSortFilterProxyModel(this);
@@ -179,7 +176,7 @@ void PatchSummaryPanel::retranslateUi()
     m_state->setVisible(!m_hasPatch);
     m_html = buildHtml();
     m_text->setText(m_html);
-    m_tableTitle->setText(tr("Universes"));
+    m_tableTitle->setText(QStringLiteral("<b>%1</b>").arg(tr("Universes")));
     m_tableTitle->setVisible(m_hasPatch);
     m_table->setAccessibleName(tr("Universes"));
     m_table->setVisible(m_hasPatch);

@@ -1,5 +1,6 @@
 #include "panels/playbackpanel.h"
 
+#include "panels/clearbutton.h"
 #include "panels/playbacktransport.h"
 #include "panels/statuslabel.h"
 
@@ -62,6 +63,7 @@ void PlaybackPanel::retranslateUi()
 {
     m_pathEdit->setToolTip(tr("Path to a .tpx recording"));
     m_pathEdit->setAccessibleName(tr("Path to a .tpx recording"));
+    nameClearButton(m_pathEdit, tr("Clear"));
     m_browse->setText(tr("..."));
     m_browse->setToolTip(tr("Browse for a .tpx recording"));
     m_browse->setAccessibleName(m_browse->toolTip());

@@ -63,14 +63,14 @@ EXPECTED = [
 class Node:
     """One accessible with what the checks need, read once."""
 
-    def __init__(self, acc, path):
+    def __init__(self, acc, ancestors):
         self.acc = acc
         self.role = acc.get_role()
         self.name = acc.get_name() or ""
         self.showing = acc.get_state_set().contains(Atspi.StateType.SHOWING)
         # Named ancestors and the node itself, for messages:
         # "frame 'Torvane TALU' > text 'Patch file path' > push button ''"
-        self.path = path
+        self.path = (ancestors + " > " if ancestors else "") + f"{acc.get_role_name()} '{self.name}'"
 
 
 def find_window(pid):
@@ -92,17 +92,16 @@ def find_window(pid):
     return None
 
 
-def walk(acc, path=""):
+def walk(acc, ancestors=""):
     """Every accessible under acc, depth first, without descending into items."""
-    name = acc.get_name() or ""
-    node = Node(acc, (path + " > " if path else "") + f"{acc.get_role_name()} '{name}'")
+    node = Node(acc, ancestors)
     yield node
     if node.role in LEAF_ROLES:
         return
     for i in range(acc.get_child_count()):
         child = acc.get_child_at_index(i)
         if child is not None:
-            yield from walk(child, node.path if name else path)
+            yield from walk(child, node.path if node.name else ancestors)
 
 
 def find(window, role, name, showing=None):

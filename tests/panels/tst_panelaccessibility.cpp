@@ -103,7 +103,12 @@ void TestPanelAccessibility::everyControlHasAName_data()
 {
     QTest::addColumn<PanelFactory>("make");
     QTest::addColumn<QString>("named"); // a name the reader must find
-    QTest::newRow("patch bar") << PanelFactory([](const MoxStyle *) { return new PatchBar; })
+    // Every path field holds text, so its clear button shows and is checked too.
+    QTest::newRow("patch bar") << PanelFactory([](const MoxStyle *) {
+        auto *bar = new PatchBar;
+        bar->setPath(QStringLiteral("/shows/hall.tpatch"));
+        return bar;
+    })
                                << "Browse for a patch file";
     QTest::newRow("group filter") << PanelFactory([](const MoxStyle *) {
         auto *panel = new GroupFilterPanel;
@@ -123,11 +128,16 @@ void TestPanelAccessibility::everyControlHasAName_data()
         panel->setPatch(patch, MonitorTestData::layoutOf({MonitorTestData::square(0, 0, 4)}), {});
         return panel;
     }) << "Universes";
-    QTest::newRow("playback") << PanelFactory([](const MoxStyle *) { return new PlaybackPanel; })
+    QTest::newRow("playback") << PanelFactory([](const MoxStyle *) {
+        auto *panel = new PlaybackPanel;
+        panel->setPath(QStringLiteral("/shows/hall.tpx"));
+        return panel;
+    })
                               << "Browse for a .tpx recording";
     QTest::newRow("gps playback") << PanelFactory([](const MoxStyle *s) {
         auto *panel = new GpsPlaybackPanel(*s);
         panel->setGroups({{QStringLiteral("Facade"), 2, true}, {QStringLiteral("Floor"), 1, true}});
+        panel->setPaths({QStringLiteral("/gps/show_Facade.tpx")});
         return panel;
     }) << "Recording for \"Floor\"";
     QTest::newRow("broadcast") << PanelFactory([](const MoxStyle *) {

@@ -18,7 +18,14 @@ DmxInspector::DmxInspector(QWidget *parent) : QWidget(parent)
     m_universeBox = new QComboBox(this);
     m_formatBox = new QComboBox(this);
     m_formatBox->addItems({QString(), QString(), QString()});
+    // Linked labels: a screen reader names a combo box by its label, not by its value.
+    m_universeLabel = new QLabel(this);
+    m_universeLabel->setBuddy(m_universeBox);
+    m_formatLabel = new QLabel(this);
+    m_formatLabel->setBuddy(m_formatBox);
+    bar->addWidget(m_universeLabel);
     bar->addWidget(m_universeBox, 1);
+    bar->addWidget(m_formatLabel);
     bar->addWidget(m_formatBox);
     layout->addLayout(bar);
     m_grid = new DmxChannelGrid(this);
@@ -42,6 +49,10 @@ void DmxInspector::retranslate()
     m_formatBox->setItemText(1, tr("Hex"));
     m_formatBox->setItemText(2, tr("Percent"));
     m_universeBox->setToolTip(tr("The universe shown, by Port-Address."));
+    m_universeLabel->setText(tr("Universe"));
+    m_formatLabel->setText(tr("Values"));
+    m_universeBox->setAccessibleName(tr("Universe"));
+    m_formatBox->setAccessibleName(tr("Values"));
     m_hoverLabel->setText(hoverText());
 }
 

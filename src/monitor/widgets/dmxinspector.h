@@ -43,7 +43,9 @@ private:
     void onUniverseIndexChanged();
     void onChannelHovered(int channel);
 
+    QLabel *m_universeLabel = nullptr;
     QComboBox *m_universeBox = nullptr;
+    QLabel *m_formatLabel = nullptr;
     QComboBox *m_formatBox = nullptr;
     DmxChannelGrid *m_grid = nullptr;
     QLabel *m_hoverLabel = nullptr;

@@ -1,0 +1,69 @@
+#include "live/livepipeline.h"
+
+#include "monitor/pixelcolourbuffer.h"
+#include "patch/pixellayout.h"
+
+LivePipeline::LivePipeline(std::unique_ptr<ArtNetNode> node, QObject *parent)
+    : QObject(parent), m_node(node ? std::move(node) : std::make_unique<ArtNetNode>())
+{
+    connect(m_node.get(), &ArtNetNode::dmxReceived, this, &LivePipeline::onDmxReceived);
+}
+
+LivePipeline::~LivePipeline()
+{
+    // The node first, so no packet arrives for a closing file.
+    m_node->stop();
+    stopRecording();
+}
+
+void LivePipeline::setColourTarget(PixelColourBuffer *buffer, const TPatch::PixelLayout *layout)
+{
+    m_buffer = buffer;
+    m_layout = layout;
+}
+
+bool LivePipeline::startRecording(const QString &path, int frameRate, int recordsPerFrame, QString *error)
+{
+    stopRecording();
+    auto writer = std::make_unique<RecordingWriter>();
+    if (!writer->open(path, frameRate, recordsPerFrame)) {
+        if (error)
+            *error = writer->lastError();
+        return false;
+    }
+    connect(writer.get(), &RecordingWriter::writeFailed, this, [this](const QString &reason) {
+        stopRecording();
+        emit recordingFailed(reason);
+    });
+    m_writer = std::move(writer);
+    return true;
+}
+
+void LivePipeline::stopRecording()
+{
+    if (m_writer && m_writer->isOpen())
+        m_writer->close();
+}
+
+bool LivePipeline::takeDirty()
+{
+    const bool dirty = m_dirty;
+    m_dirty = false;
+    return dirty;
+}
+
+void LivePipeline::onDmxReceived(quint16 portAddress, const QByteArray &data, const QHostAddress &)
+{
+    ++m_packets;
+    if (m_writer && m_writer->isOpen()) {
+        // The flavour of the packet in hand: the node reports the latest source.
+        m_writer->setSource(RecordFlavour(m_node->sourceFlavour()), m_node->kelDeviceName());
+        m_writer->write(portAddress, data);
+    }
+    if (m_buffer && m_layout && !data.isEmpty()) {
+        const auto *bytes = reinterpret_cast<const quint8 *>(data.constData());
+        m_buffer->applyUniverse(m_layout->pixelsForPortAddress(portAddress), bytes, int(data.size()));
+        m_buffer->storeUniverse(portAddress, bytes, int(data.size()));
+    }
+    m_dirty = true;
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "artnet/artnetnode.h"
+#include "recording/recordingwriter.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class PixelColourBuffer;
+namespace TPatch {
+struct PixelLayout;
+}
+
+// The live path, one object for the window and talu-cli listen alike: every
+// ArtDmx the node receives goes, in this order, to the recording writer while
+// one is open, into the colour buffer against the pixels patched on its
+// Port-Address (the buffer also keeps the bytes for the DMX inspector), and
+// then raises the dirty flag. Nothing is painted here: the owner repaints on
+// its own timer when takeDirty() says something changed.
+//
+// Threads: GUI thread only (the node runs on it).
+class LivePipeline : public QObject
+{
+    Q_OBJECT
+public:
+    // node: the node to listen with (a default system node when null).
+    explicit LivePipeline(std::unique_ptr<ArtNetNode> node = nullptr, QObject *parent = nullptr);
+    ~LivePipeline() override;
+
+    ArtNetNode &node() { return *m_node; }
+    const ArtNetNode &node() const { return *m_node; }
+
+    // Where received universes are evaluated (neither owned; both must stay
+    // alive until replaced). Null for either: nothing is evaluated.
+    void setColourTarget(PixelColourBuffer *buffer, const TPatch::PixelLayout *layout);
+
+    // Opens path for appending (see RecordingWriter::open). On failure returns
+    // false with the writer's reason in *error.
+    bool startRecording(const QString &path, int frameRate, int recordsPerFrame, QString *error);
+    // Closes the file; its figures stay readable through writer() until the next start.
+    void stopRecording();
+    bool isRecording() const { return m_writer && m_writer->isOpen(); }
+    const RecordingWriter *writer() const { return m_writer.get(); }
+
+    // Whether anything arrived since the last call; clears the flag.
+    bool takeDirty();
+    qint64 packetsApplied() const { return m_packets; }
+
+signals:
+    // The open recording failed (disk full, file gone); it has been closed.
+    void recordingFailed(const QString &reason);
+
+private:
+    void onDmxReceived(quint16 portAddress, const QByteArray &data, const QHostAddress &sender);
+
+    std::unique_ptr<ArtNetNode> m_node;
+    std::unique_ptr<RecordingWriter> m_writer;
+    PixelColourBuffer *m_buffer = nullptr;
+    const TPatch::PixelLayout *m_layout = nullptr;
+    bool m_dirty = false;
+    qint64 m_packets = 0;
+};
