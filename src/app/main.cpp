@@ -33,7 +33,7 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[PATCH]"));
     parser.addPositionalArgument(QStringLiteral("recording"), QStringLiteral("Recording to load (.tpx)."),
                                  QStringLiteral("[RECORDING]"));
-    parser.process(*app);
+    parser.process(argumentsForNormalStart(QCoreApplication::arguments()));
     const QStringList files = parser.positionalArguments();
 
     auto icon = std::make_unique<QIcon>(QStringLiteral(":/icons/exelogo.ico"));

@@ -1,11 +1,11 @@
 #include "app/mainwindow.h"
 
+#include "artnet/widgets/broadcastpanel.h"
+#include "live/livepipeline.h"
 #include "monitor/pixeltexts.h"
-#include "monitor/recordedframe.h"
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
-#include "artnet/widgets/broadcastpanel.h"
 #include "packetlog/packetjournal.h"
 #include "panels/currentpagestack.h"
 #include "panels/currentpagetabs.h"
@@ -14,12 +14,9 @@
 #include "panels/patchbar.h"
 #include "panels/patchsummarypanel.h"
 #include "panels/playbackpanel.h"
-#include "panels/statuslabel.h"
-#include "recording/gpspatchexpectation.h"
-#include "style/moxstyle.h"
-#include "patch/patchloader.h"
 #include "recording/playbackclock.h"
 #include "recording/recording.h"
+#include "style/moxstyle.h"
 
 #include <QAction>
 #include <QApplication>
@@ -71,6 +68,7 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     m_recording = std::make_unique<Recording>();
 
     buildCentralWidget();
+    wirePanels();
     wireMonitorBar();
     wireGroupFilter();
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
@@ -91,6 +89,16 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     connect(m_clock, &PlaybackClock::finished_, this, &MainWindow::onPlaybackFinished, Qt::QueuedConnection);
     connect(m_clock, &PlaybackClock::performanceWarning, this, &MainWindow::onPerformanceWarning,
             Qt::QueuedConnection);
+
+    // The measured-rate line is refreshed once a second while playing.
+    m_performanceTimer.setInterval(1000);
+    connect(&m_performanceTimer, &QTimer::timeout, this, &MainWindow::showPerformance);
+    // Live painting is never per packet: at most every 20 ms, when something arrived.
+    m_liveRepaintTimer.setInterval(20);
+    m_liveRepaintTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_liveRepaintTimer, &QTimer::timeout, this, &MainWindow::onLiveRepaint);
+    m_broadcastStatusTimer.setInterval(1000);
+    connect(&m_broadcastStatusTimer, &QTimer::timeout, this, &MainWindow::refreshBroadcastStatus);
 }
 
 MainWindow::~MainWindow()
@@ -98,8 +106,11 @@ MainWindow::~MainWindow()
     saveSettings();
     m_clock->stop();
     m_clock->wait();
-    // The node and the live recording file join this teardown with the
-    // broadcast workflow: node stopped, then file closed, before the members go.
+    // Node stopped, then the live recording file closed, before the members go.
+    if (m_live) {
+        m_live->node().stop();
+        m_live->stopRecording();
+    }
 }
 
 void MainWindow::buildCentralWidget()
@@ -145,8 +156,6 @@ QWidget *MainWindow::buildLeftColumn()
     m_playbackTabs->addTab(m_gpsPanel, QString());
     m_broadcastPanel = new BroadcastPanel;
     m_broadcastPanel->refreshInterfaces();
-    connect(m_playbackPanel, &PlaybackPanel::loadRequested, this, &MainWindow::onRecordingLoadRequested);
-    connect(m_playbackPanel, &PlaybackPanel::playPauseRequested, this, &MainWindow::onPlayPause);
     m_sourceStack->insertWidget(RecordedPage, m_playbackTabs);
     m_sourceStack->insertWidget(BroadcastPage, m_broadcastPanel);
     layout->addWidget(m_sourceStack);
@@ -210,9 +219,9 @@ void MainWindow::wireMonitorBar()
 {
     connect(m_fitButton, &QPushButton::clicked, this, &MainWindow::onFitToView);
     connect(m_snapshotButton, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
-    connect(m_whiteCheck, &QCheckBox::toggled, this, [this](bool on) { m_colours.setWhiteEnabled(on); });
+    connect(m_whiteCheck, &QCheckBox::toggled, this, &MainWindow::onWhiteChannelsToggled);
     connect(m_axesCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
-    connect(m_fastDrawCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setFastDraw);
+    connect(m_fastDrawCheck, &QCheckBox::toggled, this, &MainWindow::onFastDrawToggled);
     connect(m_autoOrbitCheck, &QCheckBox::toggled, this, [this](bool on) {
         if (on)
             m_view3d->startAutoOrbit();
@@ -227,6 +236,40 @@ void MainWindow::wireMonitorBar()
     connect(m_resetButton, &QPushButton::clicked, m_view3d, &Led3DView::reset);
     connect(m_view2d, &LedMonitorView::cellHovered, this, &MainWindow::onCellHovered);
     connect(m_dmxInspector, &DmxInspector::universeChanged, this, &MainWindow::onInspectedUniverseChanged);
+}
+
+void MainWindow::wirePanels()
+{
+    connect(m_playbackTabs, &QTabWidget::currentChanged, this, &MainWindow::onPlaybackTabChanged);
+
+    connect(m_playbackPanel, &PlaybackPanel::loadRequested, this, &MainWindow::onRecordingLoadRequested);
+    connect(m_playbackPanel, &PlaybackPanel::playPauseRequested, this, &MainWindow::onPlayPause);
+    connect(m_playbackPanel, &PlaybackPanel::stopRequested, this, &MainWindow::onStopPlayback);
+    connect(m_playbackPanel, &PlaybackPanel::seekRequested, this, &MainWindow::onSeekRequested);
+    connect(m_playbackPanel, &PlaybackPanel::fpsChanged, this, &MainWindow::onFpsChanged);
+    // The loop box of the tab being played decides.
+    connect(m_playbackPanel, &PlaybackPanel::loopChanged, this, [this](bool loop) {
+        if (m_playbackTabs->currentWidget() == m_playbackPanel)
+            m_clock->setLoop(loop);
+    });
+
+    connect(m_gpsPanel, &GpsPlaybackPanel::autoFillRequested, this, &MainWindow::onGpsAutoFill);
+    connect(m_gpsPanel, &GpsPlaybackPanel::loadAllRequested, this, &MainWindow::onGpsLoadAll);
+    connect(m_gpsPanel, &GpsPlaybackPanel::pathsChanged, this, &MainWindow::onGpsPathsChanged);
+    connect(m_gpsPanel, &GpsPlaybackPanel::playPauseRequested, this, &MainWindow::onPlayPause);
+    connect(m_gpsPanel, &GpsPlaybackPanel::stopRequested, this, &MainWindow::onStopPlayback);
+    connect(m_gpsPanel, &GpsPlaybackPanel::seekRequested, this, &MainWindow::onSeekRequested);
+    connect(m_gpsPanel, &GpsPlaybackPanel::fpsChanged, this, &MainWindow::onFpsChanged);
+    connect(m_gpsPanel, &GpsPlaybackPanel::loopChanged, this, [this](bool loop) {
+        if (m_playbackTabs->currentWidget() == m_gpsPanel)
+            m_clock->setLoop(loop);
+    });
+
+    connect(m_broadcastPanel, &BroadcastPanel::startRequested, this, &MainWindow::onBroadcastStart);
+    connect(m_broadcastPanel, &BroadcastPanel::stopRequested, this, &MainWindow::onBroadcastStop);
+    connect(m_broadcastPanel, &BroadcastPanel::recordStartRequested, this, &MainWindow::onRecordStart);
+    connect(m_broadcastPanel, &BroadcastPanel::recordStopRequested, this, &MainWindow::onRecordStop);
+    connect(m_broadcastPanel, &BroadcastPanel::refreshInterfacesRequested, this, &MainWindow::onBroadcastRefresh);
 }
 
 void MainWindow::wireGroupFilter()
@@ -260,6 +303,12 @@ void MainWindow::onFitToView()
         m_view3d->fitCamera();
     else
         m_view2d->fitToView();
+}
+
+void MainWindow::clearLiveState()
+{
+    m_colours.clear();
+    pushMonitor();
 }
 
 void MainWindow::onCellHovered(int pixelNumber)
@@ -421,8 +470,14 @@ void MainWindow::loadSettings()
     m_broadcastPanel->setRecordFolder(v.broadcastRecordDir);
     m_broadcastPanel->setRecordName(v.broadcastRecordName);
     m_broadcastPanel->setRecordFps(v.broadcastRecordFps);
-    m_whiteCheck->setChecked(v.whiteChannels);
-    m_fastDrawCheck->setChecked(v.fastDraw3D);
+    {
+        // Restored values are not the user's toggles: no status messages, no saving.
+        const QSignalBlocker blockWhite(m_whiteCheck);
+        const QSignalBlocker blockFast(m_fastDrawCheck);
+        m_whiteCheck->setChecked(v.whiteChannels);
+        m_fastDrawCheck->setChecked(v.fastDraw3D);
+    }
+    m_colours.setWhiteEnabled(v.whiteChannels);
     m_view3d->setFastDraw(m_fastDrawCheck->isChecked());
     m_monitorTabs->setCurrentIndex(v.viewTab);
     {
@@ -451,167 +506,6 @@ void MainWindow::applySourceMode()
     m_sourceStack->setCurrentIndex(recorded ? RecordedPage : BroadcastPage);
     m_playbackTabs->setEnabled(recorded);
     m_broadcastPanel->setEnabled(!recorded);
+    m_broadcastPanel->setPatchLoaded(m_patchLoaded);
 }
 
-void MainWindow::openFiles(const QString &patchPath, const QString &recordingPath)
-{
-    if (!patchPath.isEmpty()) {
-        m_patchBar->setPath(patchPath);
-        onUploadRequested(patchPath);
-    }
-    if (!recordingPath.isEmpty())
-        onRecordingLoadRequested(recordingPath);
-}
-
-void MainWindow::onUploadRequested(const QString &path)
-{
-    m_patchBar->setBusy(true);
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    TPatch::PatchLoadResult result = TPatch::loadPatch(path);
-    const qint64 ms = elapsed.elapsed();
-    QApplication::restoreOverrideCursor();
-    m_patchBar->setBusy(false);
-
-    if (!result.ok) {
-        const TPatch::PatchMessage error = result.error;
-        m_patchBar->statusLabel()->showMessage([error] { return error.text(); }, 2);
-        showStatus([] { return tr("Patch could not be loaded."); }, 0);
-        QMessageBox::warning(this, tr("Patch Error"), error.text());
-        return;
-    }
-
-    m_patch = std::move(result.patch);
-    m_patchPath = path;
-    m_patchLoaded = true;
-    m_layout = TPatch::buildPixelLayout(m_patch);
-    m_colours.setPatch(&m_layout.pixels);
-    m_view2d->setPatch(&m_patch, &m_layout);
-    m_view2d->setColours(&m_colours.colours());
-    m_view2d->fitToView();
-    m_view3d->setPatch(m_layout);
-    m_dmxInspector->setPixelLayout(&m_layout);
-    m_dmxInspector->setUniverses(QVector<quint16>(m_layout.portAddressPixels.keyBegin(), m_layout.portAddressPixels.keyEnd()));
-    m_groupPanel->setPatch(m_patch, m_layout);
-    m_summaryPanel->setPatch(m_patch, m_layout, result.warnings + m_layout.warnings);
-    m_gpsPanel->setGroups(GpsPanelGroup::fromExpectation(GpsPatchExpectation::fromPatch(m_patch)));
-    m_gpsPanel->setPaths(m_rememberedGpsPaths);
-    m_broadcastPanel->setPatchLoaded(true);
-    pushMonitor();
-    const QString fileName = QFileInfo(path).fileName();
-    const qint64 warnings = result.warnings.size();
-    if (warnings == 0) {
-        m_patchBar->statusLabel()->showMessage([fileName, ms] { return tr("Loaded %1 in %2 ms.").arg(fileName).arg(ms); }, 0);
-    } else {
-        m_patchBar->statusLabel()->showMessage(
-            [fileName, ms, warnings] {
-                return tr("Loaded %1 in %2 ms with %3 warning(s) - see the Patch tab.").arg(fileName).arg(ms).arg(warnings);
-            },
-            1);
-    }
-    m_sideTabs->setCurrentIndex(PatchTab);
-    const qint64 drawn = m_layout.drawablePixelCount();
-    showStatus([drawn] { return tr("%1 pixels drawn.").arg(drawn); }, 0);
-    applySourceMode();
-    // A loaded recording is evaluated against the new patch.
-    if (m_recording->isLoaded())
-        onRecordingLoadRequested(m_recording->path());
-    saveSettings();
-}
-
-void MainWindow::onRecordingLoadRequested(const QString &path)
-{
-    if (path.trimmed().isEmpty()) {
-        showStatus([] { return tr("Enter a .tpx path or pick one with the ... button."); }, 5000);
-        return;
-    }
-    if (!QFileInfo::exists(path)) {
-        showStatus([path] { return tr("File not found: %1").arg(path); }, 5000);
-        return;
-    }
-    m_playbackPanel->setPath(path);
-    m_clock->stop();
-    const RecordingLoadResult result = m_recording->load(path, m_patchLoaded ? &m_patch : nullptr);
-    if (!result.ok) {
-        const TPatch::PatchMessage error = result.error;
-        showStatus([error] { return error.text(); }, 0);
-        return;
-    }
-    const int fps = m_playbackPanel->fps();
-    m_clock->setFrameCount(m_recording->frameCount());
-    m_clock->setFps(fps);
-    m_clock->seek(0);
-
-    // The inspector offers every universe the patch or the recording carries.
-    QVector<quint16> universes(m_layout.portAddressPixels.keyBegin(), m_layout.portAddressPixels.keyEnd());
-    universes += m_recording->universes();
-    std::sort(universes.begin(), universes.end());
-    universes.erase(std::unique(universes.begin(), universes.end()), universes.end());
-    m_dmxInspector->setUniverses(universes);
-    m_colours.clear();
-    showFrame(0);
-
-    const QString fileName = QFileInfo(path).fileName();
-    const QString format = m_recording->formatLabel();
-    const qint64 frames = m_recording->frameCount();
-    showStatus(
-        [fileName, format, frames, fps] {
-            return tr("%1 · %2 · %3 frames · %4 s at %5 fps")
-                       .arg(fileName, format)
-                       .arg(frames)
-                       .arg(double(frames) / fps, 0, 'f', 1)
-                       .arg(fps)
-                   + QStringLiteral("  |  ") + tr("Space plays and pauses.");
-        },
-        0);
-    saveSettings();
-}
-
-void MainWindow::showFrame(qint64 frame)
-{
-    m_currentFrame = frame;
-    applyRecordedFrame(m_colours, m_layout, *m_recording, frame);
-    pushMonitor();
-}
-
-void MainWindow::onPlayPause()
-{
-    if (!m_recordedRadio->isChecked()) {
-        showStatus([] { return tr("Playback controls work in Recorded playback mode."); }, 5000);
-        return;
-    }
-    if (m_recording->frameCount() < 1) {
-        showStatus([] { return tr("Nothing to play - no recording is loaded."); }, 5000);
-        return;
-    }
-    if (m_clock->isPlaying()) {
-        m_clock->stop();
-        showStatus([] { return tr("Playback paused."); }, 0);
-        return;
-    }
-    m_clock->setFps(m_playbackPanel->fps());
-    m_clock->setLoop(true);
-    m_clock->setFrameCount(m_recording->frameCount());
-    m_clock->seek(m_currentFrame);
-    m_clock->play();
-    showStatus([] { return tr("Playing."); }, 0);
-}
-
-void MainWindow::onFrameTick(qint64 frame)
-{
-    showFrame(frame);
-    m_clock->acknowledge();
-}
-
-void MainWindow::onPlaybackFinished()
-{
-    m_clock->stop();
-    showStatus([] { return tr("Reached the end of the recording."); }, 0);
-}
-
-void MainWindow::onPerformanceWarning(double measuredFps)
-{
-    const qint64 fps = std::max<qint64>(1, qRound64(measuredFps));
-    showStatus([fps] { return tr("Sustaining about %1 fps.").arg(fps); }, 8000);
-}

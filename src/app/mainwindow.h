@@ -3,10 +3,13 @@
 #include "app/appsettings.h"
 #include "monitor/pixelcolourbuffer.h"
 #include "patch/patchdata.h"
+#include "patch/patchloadresult.h"
 #include "patch/pixellayout.h"
+#include "recording/gpssyncset.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -18,17 +21,18 @@ class QPushButton;
 class QRadioButton;
 class QStackedWidget;
 class QTabWidget;
-class DmxInspector;
-class Led3DView;
-class LedMonitorView;
 class BroadcastPanel;
+class DmxInspector;
 class GpsPlaybackPanel;
 class GroupFilterPanel;
+class Led3DView;
+class LedMonitorView;
+class LivePipeline;
 class MoxStyle;
 class PatchBar;
 class PatchSummaryPanel;
-class PlaybackPanel;
 class PlaybackClock;
+class PlaybackPanel;
 class Recording;
 namespace PacketLog {
 class PacketJournal;
@@ -37,7 +41,12 @@ class PacketJournal;
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
 // requests; the window decides, calls the cores and pushes state back.
-// GUI thread only.
+//
+// One class, its implementation split by workflow: mainwindow.cpp (frame,
+// status line, settings), mainwindowpatch.cpp (patch loading),
+// mainwindowplayback.cpp (recorded playback and the monitor bar),
+// mainwindowgps.cpp (GPS-Sync sets), mainwindowlive.cpp (live broadcast and
+// recording). GUI thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -56,47 +65,98 @@ public:
 
     void loadSettings();
     void saveSettings();
-
-    // The values the window would save now (the panels' state and what it keeps
-    // for panels still to come).
+    // The values the window would save now, taken from the widgets.
     StoredSettings currentSettings() const;
 
     // Loads the files named on the command line: a patch, then a recording.
     void openFiles(const QString &patchPath, const QString &recordingPath);
+    // Where import reports go; empty (the default) is the program's logs folder.
+    void setImportLogsFolder(const QString &folder) { m_importLogsFolder = folder; }
 
     bool isPatchLoaded() const { return m_patchLoaded; }
     qint64 currentFrame() const { return m_currentFrame; }
     const TPatch::PixelLayout &pixelLayout() const { return m_layout; }
     PixelColourBuffer &colourBuffer() { return m_colours; }
     const TPatch::PatchData &patch() const { return m_patch; }
+    const Recording &recording() const { return *m_recording; }
+    const GpsSyncSet &gpsSet() const { return m_gpsSet; }
+    // The live path, or nullptr before the first start of listening.
+    LivePipeline *livePipeline() const { return m_live.get(); }
+    PlaybackClock *clock() const { return m_clock; }
+    int liveRepaintCount() const { return m_liveRepaints; }
 
 public slots:
     void onUploadRequested(const QString &path);
     void onRecordingLoadRequested(const QString &path);
+    void onPlaybackTabChanged(int index);
     void onModeChanged();
+    void onPlayPause();
+    void onStopPlayback();
+    void onSeekRequested(qint64 frame);
+    void onFpsChanged(int fps);
+    void onPlaybackFinished();
+    void onPerformanceWarning(double measuredFps);
+    void onFrameTick(qint64 frame);
+    void onGpsAutoFill(const QString &folder);
+    void openGpsFolder();
+    void onGpsLoadAll();
+    void onGpsPathsChanged();
+    void onBroadcastStart();
+    void onBroadcastStop();
+    void onBroadcastRefresh();
+    void onRecordStart();
+    void onRecordStop();
+    void announceNow();
+    void refreshInterfaces();
     void onCellHovered(int pixelNumber);
     void onSaveSnapshot();
     void onFitToView();
     void onInspectedUniverseChanged(int portAddress);
-    void onFrameTick(qint64 frame);
-    void onPlayPause();
-    void onPlaybackFinished();
-    void onPerformanceWarning(double measuredFps);
+    void onWhiteChannelsToggled(bool on);
+    void onFastDrawToggled(bool on);
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    // Construction and layout (mainwindow.cpp)
     void buildCentralWidget();
     QWidget *buildLeftColumn();
     QWidget *buildRightArea();
-    void retranslateUi();
-    void applySourceMode();
+    void wirePanels();
     void wireMonitorBar();
     void wireGroupFilter();
+    void retranslateUi();
+    void applySourceMode();
     // Hands the colour buffer's current lists to both views and the inspected
     // universe's bytes to the inspector.
     void pushMonitor();
+    // Drops every colour and the inspector's bytes (the monitor goes dark).
+    void clearLiveState();
+
+    // Patch (mainwindowpatch.cpp)
+    void reportFailedPatch(const TPatch::PatchLoadResult &result, const QString &path);
+    QString writeImportReport(const TPatch::PatchLoadResult &result, const QString &path);
+    void setPatchLoaded(bool loaded);
+
+    // Recorded playback (mainwindowplayback.cpp)
+    bool isGpsTab() const;
+    // Returns true when it refused and has already said why.
+    bool refuseWithoutSource();
+    qint64 currentSourceFrames() const;
+    int currentTabFps() const;
+    // Stops the clock and puts both panels to "Play".
+    void stopClock();
+    void showFrame(qint64 frame);
+    void showPerformance();
+    void reportWhiteChannelState(bool on);
+
+    // Live (mainwindowlive.cpp)
+    void showListeningStatus(const QString &address, quint16 port, int universeCount);
+    void onLiveRepaint();
+    void refreshBroadcastStatus();
+    void onRecordingFailed(const QString &reason);
+    QVector<quint16> advertisedUniverses() const;
 
     // Left column
     PatchBar *m_patchBar = nullptr;
@@ -129,10 +189,11 @@ private:
 
     MoxStyle *m_style = nullptr;
     std::unique_ptr<MoxStyle> m_ownStyle;
-    // Values kept by the window itself rather than a widget ("monitor/lastSnapshotDir").
+    // Values the window keeps itself rather than a widget ("monitor/lastSnapshotDir").
     StoredSettings m_kept;
     // "gps/paths" as last loaded, written back while the GPS panel has no rows.
     QStringList m_rememberedGpsPaths;
+    QString m_importLogsFolder;
 
     // Status line
     std::function<QString()> m_statusProducer;
@@ -143,10 +204,19 @@ private:
     // Paces playback on its own thread; owned through the QObject tree, stopped
     // and joined in the destructor before anything else goes.
     PlaybackClock *m_clock = nullptr;
+    // Every run of the clock ends with one finished signal, also a run we
+    // stopped ourselves; those are counted here and not reported as the end.
+    int m_stopsPending = 0;
     std::unique_ptr<PacketLog::PacketJournal> m_journal;
     qint64 m_currentFrame = 0;
     std::unique_ptr<Recording> m_recording;
-    void showFrame(qint64 frame);
+    GpsSyncSet m_gpsSet;
+    // What the performance line shows: frames the clock skipped and the time
+    // one frame takes to evaluate and hand to the views.
+    qint64 m_lastTickFrame = -1;
+    qint64 m_droppedFrames = 0;
+    double m_msPerFrame = -1;
+    QTimer m_performanceTimer;
 
     TPatch::PatchData m_patch;
     QString m_patchPath;
@@ -155,4 +225,10 @@ private:
     TPatch::PixelLayout m_layout;
     PixelColourBuffer m_colours;
     int m_inspectedUniverse = -1; // Port-Address shown in the DMX tab, -1 for none
+
+    // Live: created on the first start of listening and kept.
+    std::unique_ptr<LivePipeline> m_live;
+    QTimer m_liveRepaintTimer;
+    QTimer m_broadcastStatusTimer;
+    int m_liveRepaints = 0;
 };

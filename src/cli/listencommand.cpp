@@ -2,6 +2,7 @@
 
 #include "artnet/artnetnode.h"
 #include "cli/clicommon.h"
+#include "live/livepipeline.h"
 #include "patch/frameorder.h"
 #include "patch/patchloader.h"
 #include "recording/recordingwriter.h"
@@ -59,14 +60,6 @@ bool parseUniverses(const QString &text, QVector<quint16> *out, QString *bad)
         out->append(quint16(value));
     }
     return true;
-}
-
-QVector<quint16> patchUniverses(const TPatch::PatchData &patch)
-{
-    QVector<quint16> universes = TPatch::expectedFrameOrder(patch).universes();
-    std::sort(universes.begin(), universes.end());
-    universes.erase(std::unique(universes.begin(), universes.end()), universes.end());
-    return universes;
 }
 
 QString statusLine(const NodeStats &s)
@@ -208,7 +201,7 @@ int runListenCommand(const QStringList &arguments)
             printErr(QStringLiteral("talu-cli listen: ") + loaded.error.untranslatedText());
             return ExitRefused;
         }
-        advertised = patchUniverses(loaded.patch);
+        advertised = LivePipeline::advertisedUniverses(loaded.patch);
         recordsPerFrame = TPatch::expectedFrameOrder(loaded.patch).recordsPerFrame();
     }
 
@@ -218,7 +211,9 @@ int runListenCommand(const QStringList &arguments)
     if (parser.isSet(longName))
         identity.longName = parser.value(longName);
 
-    ArtNetNode node;
+    // The window's own live path; without a colour target it only records.
+    LivePipeline pipeline;
+    ArtNetNode &node = pipeline.node();
     node.setIdentity(identity);
     node.setUniverses(advertised);
     const QString shownAddress = bindAddress.isNull() ? QStringLiteral("0.0.0.0") : bindAddress.toString();
@@ -229,28 +224,15 @@ int runListenCommand(const QStringList &arguments)
                      .arg(node.lastError()));
         return ExitRefused;
     }
-    std::unique_ptr<RecordingWriter> writer;
     if (parser.isSet(record)) {
-        writer = std::make_unique<RecordingWriter>();
-        if (!writer->open(parser.value(record), frameRate, recordsPerFrame)) {
-            printErr(QStringLiteral("talu-cli listen: cannot record to %1: %2")
-                         .arg(parser.value(record), writer->lastError()));
+        QString reason;
+        if (!pipeline.startRecording(parser.value(record), frameRate, recordsPerFrame, &reason)) {
+            printErr(QStringLiteral("talu-cli listen: cannot record to %1: %2").arg(parser.value(record), reason));
             node.stop();
             return ExitRefused;
         }
-        RecordingWriter *w = writer.get();
-        // The writer takes the flavour of the packet in hand: the node reports the latest source.
-        QObject::connect(&node, &ArtNetNode::dmxReceived, w,
-                         [w, &node](quint16 portAddress, const QByteArray &data, const QHostAddress &) {
-                             if (!w->isOpen())
-                                 return;
-                             w->setSource(RecordFlavour(node.sourceFlavour()), node.kelDeviceName());
-                             w->write(portAddress, data);
-                         });
-        QObject::connect(w, &RecordingWriter::writeFailed, w, [w](const QString &reason) {
-            printErr(QStringLiteral("Recording stopped: %1").arg(reason));
-            w->close();
-        });
+        QObject::connect(&pipeline, &LivePipeline::recordingFailed,
+                         [](const QString &reason) { printErr(QStringLiteral("Recording stopped: %1").arg(reason)); });
     }
     printErr(QStringLiteral("Listening on %1:%2, advertising %3 universe(s).")
                  .arg(shownAddress)
@@ -286,13 +268,13 @@ int runListenCommand(const QStringList &arguments)
     ran.start();
     QCoreApplication::exec();
     node.stop();
-    if (writer && writer->isOpen())
-        writer->close();
+    pipeline.stopRecording();
+    const RecordingWriter *writer = pipeline.writer();
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
 
     if (parser.isSet(json)) {
-        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer.get()));
+        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer));
     } else {
         if (live)
             std::fputs("\n", stdout);

@@ -1,7 +1,18 @@
 #include "live/livepipeline.h"
 
 #include "monitor/pixelcolourbuffer.h"
+#include "patch/frameorder.h"
 #include "patch/pixellayout.h"
+
+#include <algorithm>
+
+QVector<quint16> LivePipeline::advertisedUniverses(const TPatch::PatchData &patch)
+{
+    QVector<quint16> universes = TPatch::expectedFrameOrder(patch).universes();
+    std::sort(universes.begin(), universes.end());
+    universes.erase(std::unique(universes.begin(), universes.end()), universes.end());
+    return universes;
+}
 
 LivePipeline::LivePipeline(std::unique_ptr<ArtNetNode> node, QObject *parent)
     : QObject(parent), m_node(node ? std::move(node) : std::make_unique<ArtNetNode>())

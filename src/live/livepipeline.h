@@ -10,6 +10,7 @@
 
 class PixelColourBuffer;
 namespace TPatch {
+struct PatchData;
 struct PixelLayout;
 }
 
@@ -28,6 +29,10 @@ public:
     // node: the node to listen with (a default system node when null).
     explicit LivePipeline(std::unique_ptr<ArtNetNode> node = nullptr, QObject *parent = nullptr);
     ~LivePipeline() override;
+
+    // The Port-Addresses a patch makes the node advertise: every torvoverse's,
+    // once, ascending (a patch without pixels on a universe still owns it).
+    static QVector<quint16> advertisedUniverses(const TPatch::PatchData &patch);
 
     ArtNetNode &node() { return *m_node; }
     const ArtNetNode &node() const { return *m_node; }

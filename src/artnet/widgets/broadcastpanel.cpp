@@ -475,3 +475,13 @@ void BroadcastPanel::showStatusLines()
           << tr("%1 seq errors").arg(m_stats.sequenceErrors) << tr("%1 ignored").arg(m_stats.ignored);
     m_statistics->setText(parts.join(QStringLiteral(" · ")));
 }
+
+void BroadcastPanel::setListenMessage(std::function<QString()> producer, int level)
+{
+    m_listenMessage->showMessage(std::move(producer), level);
+}
+
+void BroadcastPanel::setRecordMessage(std::function<QString()> producer, int level)
+{
+    m_recordMessage->showMessage(std::move(producer), level);
+}
