@@ -1,0 +1,68 @@
+#pragma once
+
+#include "app/appsettings.h"
+#include "app/mainwindow.h"
+#include "panels/patchbar.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QtTest>
+
+// Drives the main window the way a user does: by the texts on its controls.
+namespace WindowDriver {
+
+inline const QString kDemoPatch = QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpatch");
+inline const QString kDemoRecording = QStringLiteral(TALU_SOURCE_DIR "/examples/demo.tpx");
+inline const QString kDemoGps = QStringLiteral(TALU_SOURCE_DIR "/examples/gps");
+
+inline void clearSettings()
+{
+    auto s = openSettings();
+    s->clear();
+    s->sync();
+}
+
+// The first button below root showing text (buttons on hidden pages too).
+template <typename Button = QAbstractButton>
+Button *button(QWidget *root, const QString &text)
+{
+    for (Button *b : root->findChildren<Button *>()) {
+        if (b->text() == text)
+            return b;
+    }
+    return nullptr;
+}
+
+inline void click(QWidget *root, const QString &text)
+{
+    // Pending layouts first (a page just shown has no size before them).
+    QCoreApplication::processEvents();
+    QAbstractButton *b = button(root, text);
+    QVERIFY2(b, qPrintable(text));
+    QVERIFY2(b->isEnabled(), qPrintable(text));
+    // A check box or radio button reacts on its indicator and text only, not
+    // on the whole width a layout gives it: click near its left end.
+    const bool indicator = qobject_cast<QCheckBox *>(b) || qobject_cast<QRadioButton *>(b);
+    QTest::mouseClick(b, Qt::LeftButton, {}, indicator ? QPoint(6, b->height() / 2) : b->rect().center());
+}
+
+// Types the demo patch into the patch bar and presses "Upload".
+inline void uploadPatch(MainWindow &w, const QString &path = kDemoPatch)
+{
+    auto *bar = w.findChild<PatchBar *>();
+    QLineEdit *edit = bar->findChild<QLineEdit *>();
+    edit->clear();
+    QTest::keyClicks(edit, path);
+    click(bar, QStringLiteral("Upload"));
+}
+
+inline QString status(MainWindow &w)
+{
+    return w.statusBar()->currentMessage();
+}
+
+} // namespace WindowDriver
