@@ -3,6 +3,7 @@
 #ifdef Q_OS_LINUX
 
 #include <QCoreApplication>
+#include <QNetworkInterface>
 
 #include <arpa/inet.h>
 #include <cerrno>
@@ -24,6 +25,7 @@ struct LinuxUdpDatagramSocket::Batch
     mmsghdr messages[kBatch];
     iovec vectors[kBatch];
     sockaddr_in senders[kBatch];
+    int keep[kBatch]; // message indices handed out, in order
     int count = 0;
     int next = 0;
 
@@ -45,19 +47,95 @@ LinuxUdpDatagramSocket::LinuxUdpDatagramSocket() : m_batch(std::make_unique<Batc
     QObject::connect(&m_resume, &QTimer::timeout, &m_resume, [this] {
         if (m_notifier)
             m_notifier->setEnabled(true);
+        for (const auto &n : m_broadcastNotifiers)
+            n->setEnabled(true);
     });
 }
 
 LinuxUdpDatagramSocket::~LinuxUdpDatagramSocket()
 {
     m_notifier.reset();
+    m_broadcastNotifiers.clear();
     if (m_fd >= 0)
         ::close(m_fd);
+    for (const int fd : m_broadcastFds)
+        ::close(fd);
 }
 
 void LinuxUdpDatagramSocket::setErrorFromErrno()
 {
     m_error = QString::fromLocal8Bit(std::strerror(errno));
+}
+
+int LinuxUdpDatagramSocket::openBound(quint32 ip, quint16 port, int receiveBufferBytes)
+{
+    const int fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    if (fd < 0) {
+        setErrorFromErrno();
+        return -1;
+    }
+    const int one = 1;
+    // Address sharing as QUdpSocket::ShareAddress does it, and broadcast for
+    // the announcements.
+    ::setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
+    ::setsockopt(fd, SOL_SOCKET, SO_BROADCAST, &one, sizeof one);
+    ::setsockopt(fd, SOL_SOCKET, SO_RCVBUF, &receiveBufferBytes, sizeof receiveBufferBytes);
+    sockaddr_in local{};
+    local.sin_family = AF_INET;
+    local.sin_port = htons(port);
+    local.sin_addr.s_addr = htonl(ip);
+    if (::bind(fd, reinterpret_cast<const sockaddr *>(&local), sizeof local) != 0) {
+        setErrorFromErrno();
+        ::close(fd);
+        return -1;
+    }
+    return fd;
+}
+
+void LinuxUdpDatagramSocket::watch(int fd)
+{
+    auto notifier = std::make_unique<QSocketNotifier>(qintptr(fd), QSocketNotifier::Read);
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] {
+        const quint64 before = m_datagramsRead;
+        if (m_readyRead)
+            m_readyRead();
+        // The handler may have closed us (stop() from a slot).
+        if (m_notifier && m_datagramsRead != before) {
+            m_notifier->setEnabled(false);
+            for (const auto &n : m_broadcastNotifiers)
+                n->setEnabled(false);
+            m_resume.start();
+        }
+    });
+    if (fd == m_fd)
+        m_notifier = std::move(notifier);
+    else
+        m_broadcastNotifiers.push_back(std::move(notifier));
+}
+
+void LinuxUdpDatagramSocket::addBroadcastReceivers(quint32 ip, quint16 port, int receiveBufferBytes)
+{
+    // The interface that holds the address tells the subnet and its broadcast address.
+    for (const QNetworkInterface &ni : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &entry : ni.addressEntries()) {
+            if (entry.ip().toIPv4Address() != ip)
+                continue;
+            m_netmask = entry.netmask().toIPv4Address();
+            m_subnet = ip & m_netmask;
+            // An address set without "brd" still has its subnet's broadcast address.
+            const quint32 broadcast =
+                entry.broadcast().isNull() ? (m_subnet | ~m_netmask) : entry.broadcast().toIPv4Address();
+            // A receiver that cannot be opened costs broadcasts, not the node: the bind stands.
+            const int subnetFd = m_netmask == 0xFFFFFFFFu ? -1 : openBound(broadcast, port, receiveBufferBytes);
+            if (subnetFd >= 0)
+                m_broadcastFds.push_back(subnetFd);
+            m_limitedBroadcastFd = openBound(INADDR_BROADCAST, port, receiveBufferBytes);
+            if (m_limitedBroadcastFd >= 0)
+                m_broadcastFds.push_back(m_limitedBroadcastFd);
+            m_error.clear();
+            return;
+        }
+    }
 }
 
 bool LinuxUdpDatagramSocket::bind(const QHostAddress &address, quint16 port, int receiveBufferBytes)
@@ -68,38 +146,15 @@ bool LinuxUdpDatagramSocket::bind(const QHostAddress &address, quint16 port, int
         m_error = QCoreApplication::translate("ArtNetNode", "Only IPv4 addresses can be used.");
         return false;
     }
-    m_fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-    if (m_fd < 0) {
-        setErrorFromErrno();
+    m_fd = openBound(ip, port, receiveBufferBytes);
+    if (m_fd < 0)
         return false;
-    }
-    const int one = 1;
-    // Address sharing as QUdpSocket::ShareAddress does it, and broadcast for
-    // the announcements.
-    ::setsockopt(m_fd, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
-    ::setsockopt(m_fd, SOL_SOCKET, SO_BROADCAST, &one, sizeof one);
-    ::setsockopt(m_fd, SOL_SOCKET, SO_RCVBUF, &receiveBufferBytes, sizeof receiveBufferBytes);
-    sockaddr_in local{};
-    local.sin_family = AF_INET;
-    local.sin_port = htons(port);
-    local.sin_addr.s_addr = htonl(ip);
-    if (::bind(m_fd, reinterpret_cast<const sockaddr *>(&local), sizeof local) != 0) {
-        setErrorFromErrno();
-        ::close(m_fd);
-        m_fd = -1;
-        return false;
-    }
-    m_notifier = std::make_unique<QSocketNotifier>(qintptr(m_fd), QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
-        const quint64 before = m_datagramsRead;
-        if (m_readyRead)
-            m_readyRead();
-        // The handler may have closed us (stop() from a slot).
-        if (m_notifier && m_datagramsRead != before) {
-            m_notifier->setEnabled(false);
-            m_resume.start();
-        }
-    });
+    watch(m_fd);
+    // Any address (0) and loopback receive every broadcast they can get already.
+    if (ip != INADDR_ANY && (ip >> 24) != 127)
+        addBroadcastReceivers(ip, port, receiveBufferBytes);
+    for (const int fd : m_broadcastFds)
+        watch(fd);
     return true;
 }
 
@@ -110,11 +165,25 @@ void LinuxUdpDatagramSocket::setReadyReadHandler(std::function<void()> handler)
 
 bool LinuxUdpDatagramSocket::fillBatch() const
 {
-    Batch &b = *m_batch;
-    b.count = 0;
-    b.next = 0;
+    m_batch->count = 0;
+    m_batch->next = 0;
     if (m_fd < 0)
         return false;
+    // The bound socket and the broadcast receivers take turns, so a flood on
+    // one cannot starve the other.
+    const size_t sources = 1 + m_broadcastFds.size();
+    for (size_t tried = 0; tried < sources; ++tried) {
+        const size_t source = m_nextSource;
+        m_nextSource = (m_nextSource + 1) % sources;
+        if (fillBatchFrom(source == 0 ? m_fd : m_broadcastFds[source - 1]))
+            return true;
+    }
+    return false;
+}
+
+bool LinuxUdpDatagramSocket::fillBatchFrom(int fd) const
+{
+    Batch &b = *m_batch;
     for (int i = 0; i < kBatch; ++i) {
         msghdr &h = b.messages[i].msg_hdr;
         h.msg_name = &b.senders[i];
@@ -127,9 +196,16 @@ bool LinuxUdpDatagramSocket::fillBatch() const
     }
     int n;
     do {
-        n = ::recvmmsg(m_fd, b.messages, kBatch, MSG_DONTWAIT, nullptr);
+        n = ::recvmmsg(fd, b.messages, kBatch, MSG_DONTWAIT, nullptr);
     } while (n < 0 && errno == EINTR);
-    b.count = n > 0 ? n : 0;
+    b.count = 0;
+    for (int i = 0; i < n; ++i) {
+        // 255.255.255.255 arrives from every interface: keep our segment's only.
+        const quint32 sender = ntohl(b.senders[i].sin_addr.s_addr);
+        if (fd == m_limitedBroadcastFd && (sender & m_netmask) != m_subnet)
+            continue;
+        b.keep[b.count++] = i;
+    }
     return b.count > 0;
 }
 
@@ -143,7 +219,7 @@ qint64 LinuxUdpDatagramSocket::readDatagram(char *buffer, qint64 maxSize, QHostA
     if (!hasPendingDatagrams())
         return -1;
     Batch &b = *m_batch;
-    const int i = b.next++;
+    const int i = b.keep[b.next++];
     ++m_datagramsRead;
     const qint64 size = b.messages[i].msg_len;
     std::memcpy(buffer, b.vectors[i].iov_base, size_t(std::min(size, maxSize)));

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <vector>
 
 struct mmsghdr;
 
@@ -18,6 +19,15 @@ struct mmsghdr;
 // datagram costs more than the node's own work. Same binding rules as
 // UdpDatagramSocket (IPv4, address sharing, enlarged receive buffer,
 // broadcast allowed).
+//
+// Bound to one interface address, a Windows socket also receives that
+// interface's broadcasts; a Linux socket does not (a broadcast is addressed
+// to the subnet's broadcast address or to 255.255.255.255, not to ours). So
+// that ArtPoll and broadcast ArtDmx reach a node listening on a chosen
+// address, two receive-only sockets join the bound one: one on the subnet's
+// broadcast address and one on 255.255.255.255 that keeps only datagrams
+// from senders in our subnet. Everything is sent from the bound socket, so
+// replies carry the chosen address.
 class LinuxUdpDatagramSocket final : public DatagramSocket
 {
 public:
@@ -40,9 +50,21 @@ public:
 
 private:
     bool fillBatch() const;
+    bool fillBatchFrom(int source) const;
     void setErrorFromErrno();
+    int openBound(quint32 ip, quint16 port, int receiveBufferBytes);
+    void watch(int fd);
+    void addBroadcastReceivers(quint32 ip, quint16 port, int receiveBufferBytes);
 
     int m_fd = -1;
+    // Receive-only broadcast sockets (see above), and the subnet a datagram on
+    // the limited-broadcast one must come from.
+    std::vector<int> m_broadcastFds;
+    int m_limitedBroadcastFd = -1;
+    quint32 m_subnet = 0;
+    quint32 m_netmask = 0;
+    std::vector<std::unique_ptr<QSocketNotifier>> m_broadcastNotifiers;
+    mutable size_t m_nextSource = 0;
     QString m_error;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::function<void()> m_readyRead;

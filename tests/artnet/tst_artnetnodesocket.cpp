@@ -49,6 +49,7 @@ private slots:
     void initTestCase_data();
     void answersPollAndReceivesDmx();
     void broadcastsReachTheSegment();
+    void boundToAnAddressHearsItsSegmentsBroadcasts();
     void bindFailuresCarryTheSocketText();
 };
 
@@ -116,6 +117,43 @@ void TestArtNetNodeSocket::broadcastsReachTheSegment()
     QCOMPARE(announce.size(), kPollReplySize);
     QCOMPARE(announce.mid(10, 4), QByteArray(4, '\0')); // bound to any
     QCOMPARE(classifyDatagram(announce).kind, DatagramKind::PollReply);
+}
+
+void TestArtNetNodeSocket::boundToAnAddressHearsItsSegmentsBroadcasts()
+{
+#ifdef Q_OS_LINUX
+    QFETCH_GLOBAL(Factory, factory);
+    if (dynamic_cast<LinuxUdpDatagramSocket *>(factory().get()) == nullptr)
+        QSKIP("Only the Linux socket adds broadcast receivers; the node uses it on Linux.");
+    // The node listens on talu0's address, the controller sends from talu1 (same segment).
+    const QHostAddress nodeAddress(QStringLiteral("192.0.2.1"));
+    const auto nodePtr = makeNode();
+    ArtNetNode &node = *nodePtr;
+    node.setUniverses({0x0003});
+    QVERIFY2(node.start(nodeAddress, kNodePort + 2), qPrintable(node.lastError()));
+    QUdpSocket controller;
+    QVERIFY(controller.bind(QHostAddress(QStringLiteral("192.0.2.2")), 0));
+    QSignalSpy answered(&node, &ArtNetNode::pollAnswered);
+    QSignalSpy received(&node, &ArtNetNode::dmxReceived);
+    for (const char *to : {"192.0.2.255", "255.255.255.255", "192.0.2.1"})
+        controller.writeDatagram(buildPoll(), QHostAddress(QLatin1String(to)), kNodePort + 2);
+    QTRY_COMPARE(answered.count(), 3);
+    controller.writeDatagram(buildDmx(0x0003, 1, QByteArray(512, '\x7f')), QHostAddress(QStringLiteral("192.0.2.255")),
+                             kNodePort + 2);
+    QTRY_COMPARE(received.count(), 1);
+    // Replies are sourced from, and name, the chosen address.
+    QHostAddress from;
+    QByteArray reply;
+    while (reply.isEmpty() || classifyDatagram(reply).kind != DatagramKind::PollReply) {
+        QVERIFY(controller.hasPendingDatagrams() || controller.waitForReadyRead(3000));
+        reply.resize(int(controller.pendingDatagramSize()));
+        controller.readDatagram(reply.data(), reply.size(), &from);
+    }
+    QCOMPARE(from, nodeAddress);
+    QCOMPARE(reply.mid(10, 4), QByteArray("\xC0\x00\x02\x01", 4));
+#else
+    QSKIP("Linux only.");
+#endif
 }
 
 void TestArtNetNodeSocket::bindFailuresCarryTheSocketText()
