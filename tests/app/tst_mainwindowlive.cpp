@@ -1,0 +1,158 @@
+// The live workflow on real sockets: runs only inside the private network
+// namespace (label "network"), where the window's node listens on talu0 and a
+// test controller sends from talu1.
+#include "artnet/artnetpacket.h"
+#include "artnet/widgets/broadcastpanel.h"
+#include "live/livepipeline.h"
+#include "netnsguard.h"
+#include "panels/statuslabel.h"
+#include "recording/recording.h"
+#include "testfiles.h"
+#include "windowdriver.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QUdpSocket>
+
+using namespace WindowDriver;
+
+namespace {
+
+const QHostAddress kNodeAddress(QStringLiteral("192.0.2.1"));
+const QHostAddress kControllerAddress(QStringLiteral("192.0.2.2"));
+constexpr quint16 kPort = 26454;
+
+// The window in Live broadcast, listening on talu0's address at kPort.
+void startListening(MainWindow &w)
+{
+    click(&w, QStringLiteral("Live broadcast"));
+    auto *panel = w.findChild<BroadcastPanel *>();
+    panel->setAddress(kNodeAddress.toString());
+    panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(kPort);
+    click(panel, QStringLiteral("Start listening"));
+}
+
+} // namespace
+
+class TestMainWindowLive : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        TALU_REQUIRE_PRIVATE_NAMESPACE();
+        QStandardPaths::setTestModeEnabled(true);
+    }
+    void init() { clearSettings(); }
+    void liveDmxLightsTheMonitorAndIsRecorded();
+    void portInUseIsReported();
+    void recordingRefusals();
+};
+
+void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
+{
+    QTemporaryDir dir;
+    MainWindow w;
+    w.show();
+    uploadPatch(w);
+    startListening(w);
+    auto *panel = w.findChild<BroadcastPanel *>();
+    QCOMPARE(panel->listenMessageLabel()->text(),
+             QStringLiteral("Listening on 192.0.2.1:%1, advertising 15 universe(s).").arg(kPort));
+    QCOMPARE(status(w), QStringLiteral("Art-Net node active on 192.0.2.1."));
+    QVERIFY(button(panel, QStringLiteral("Stop listening")));
+
+    QUdpSocket controller;
+    QVERIFY(controller.bind(kControllerAddress, 0));
+    // A poll to the subnet broadcast is answered: the node hears its segment.
+    controller.writeDatagram(ArtNet::buildPoll(), QHostAddress(QStringLiteral("192.0.2.255")), kPort);
+    QTRY_COMPARE(w.livePipeline()->node().stats().artPolls, quint64(1));
+
+    // Record, then send universe 0 full on: the monitor lights and the file holds the bytes.
+    click(panel, QStringLiteral("Record incoming stream"));
+    panel->setRecordFolder(dir.path());
+    panel->setRecordName(QStringLiteral("take1"));
+    click(panel, QStringLiteral("Record"));
+    const QString path = dir.filePath(QStringLiteral("take1.tpx"));
+    QCOMPARE(panel->recordMessageLabel()->text(), QStringLiteral("Recording to %1").arg(path));
+    QByteArray data(512, '\0');
+    for (int i = 0; i < 512; ++i)
+        data[i] = char(i * 7);
+    constexpr int kPackets = 30;
+    for (quint8 seq = 1; seq <= kPackets; ++seq)
+        controller.writeDatagram(ArtNet::buildDmx(0x0000, seq, data), kNodeAddress, kPort);
+    QTRY_COMPARE(w.livePipeline()->packetsApplied(), qint64(kPackets));
+    QTRY_VERIFY(w.liveRepaintCount() > 0);
+    QVERIFY(w.liveRepaintCount() <= kPackets); // painted on the timer, not per packet
+    QCOMPARE(w.colourBuffer().universeData(0x0000), data);
+    const QVector<int> &lit = w.pixelLayout().pixelsForPortAddress(0x0000);
+    QVERIFY(!lit.isEmpty());
+    QVERIFY(w.colourBuffer().colours().at(lit.at(1)) != PixelColourBuffer::kDark);
+
+    click(panel, QStringLiteral("Stop recording"));
+    QCOMPARE(panel->recordMessageLabel()->text().left(6), QStringLiteral("Saved "));
+    Recording recorded;
+    QVERIFY(recorded.load(path).ok);
+    QCOMPARE(recorded.universes(), QVector<quint16>{0x0000});
+    qint64 records = 0;
+    for (qint64 f = 0; f < recorded.frameCount(); ++f)
+        for (int slot = 0; slot < recorded.recordsPerFrame(); ++slot) {
+            QCOMPARE(recorded.dataOf(recorded.recordAt(f, slot)).toByteArray(), data);
+            ++records;
+        }
+    QCOMPARE(records, qint64(kPackets));
+
+    click(panel, QStringLiteral("Stop listening"));
+    QCOMPARE(panel->listenMessageLabel()->text(), QStringLiteral("Not listening."));
+    QVERIFY(!w.livePipeline()->node().isRunning());
+}
+
+void TestMainWindowLive::portInUseIsReported()
+{
+    QUdpSocket squatter;
+    QVERIFY(squatter.bind(kNodeAddress, kPort)); // no address sharing: the port is taken
+    MainWindow w;
+    startListening(w);
+    auto *panel = w.findChild<BroadcastPanel *>();
+    QVERIFY2(panel->listenMessageLabel()->text().startsWith(QStringLiteral("Could not listen on 192.0.2.1:%1 - ")
+                                                                .arg(kPort)),
+             qPrintable(panel->listenMessageLabel()->text()));
+    QCOMPARE(panel->listenMessageLabel()->messageLevel(), 2);
+    QVERIFY(button(panel, QStringLiteral("Start listening")));
+}
+
+void TestMainWindowLive::recordingRefusals()
+{
+    MainWindow w;
+    auto *panel = w.findChild<BroadcastPanel *>();
+    click(&w, QStringLiteral("Live broadcast"));
+    click(panel, QStringLiteral("Record incoming stream"));
+    click(panel, QStringLiteral("Record"));
+    QCOMPARE(panel->recordMessageLabel()->text(),
+             QStringLiteral("Start listening first - there is nothing to record yet."));
+    QVERIFY(button(panel, QStringLiteral("Record")));
+    startListening(w);
+    panel->setRecordFolder(QString());
+    click(panel, QStringLiteral("Record"));
+    QCOMPARE(panel->recordMessageLabel()->text(), QStringLiteral("Pick a folder and a file name first."));
+
+    // An existing file of 2 KB is appended to, and said so; 500 bytes is just "Recording to".
+    QTemporaryDir dir;
+    for (const auto &[size, message] : {std::pair{2048, "Appending to %1 (2 KB already in the file)."},
+                                        std::pair{500, "Recording to %1"}}) {
+        const QString path = dir.filePath(QStringLiteral("old%1.tpx").arg(size));
+        TestFiles::write(path, QByteArray(size, '\0'));
+        panel->setRecordFolder(dir.path());
+        panel->setRecordName(QStringLiteral("old%1").arg(size));
+        click(panel, QStringLiteral("Record"));
+        QCOMPARE(panel->recordMessageLabel()->text(), QString::fromLatin1(message).arg(path));
+        click(panel, QStringLiteral("Stop recording"));
+    }
+}
+
+QTEST_MAIN(TestMainWindowLive)
+#include "tst_mainwindowlive.moc"
