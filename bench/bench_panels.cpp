@@ -4,10 +4,10 @@
 // both; the GPS panel builds 60 group rows without a layout storm. The floor
 // printed beside it is one pass over the layout's pixel list, the least any
 // fill must read.
+#include "largepatch.h"
 #include "panels/gpsplaybackpanel.h"
 #include "panels/groupfilterpanel.h"
 #include "panels/patchsummarypanel.h"
-#include "patch/patchkeys.h"
 #include "patch/pixellayout.h"
 #include "style/moxstyle.h"
 
@@ -25,49 +25,6 @@ constexpr int kUniverses = 2048;
 constexpr int kPixels = 500000;
 constexpr int kRuns = 5;
 
-TPatch::PatchData makePatch()
-{
-    using namespace TPatch;
-    PatchData patch;
-    patch.projectName = QStringLiteral("Stadium bowl");
-    patch.formatLabel = QStringLiteral("TPatch");
-    for (int g = 0; g < kGroups; ++g) {
-        PatchGroup group;
-        group.groupName = QStringLiteral("Section %1").arg(g + 1);
-        patch.groups.append(group);
-    }
-    int placed = 0;
-    for (int u = 0; u < kUniverses; ++u) {
-        Torvoverse t;
-        t.torvoverseName = QStringLiteral("Uni %1").arg(u);
-        t.universe = quint16(u & 0xF);
-        t.subNet = quint8((u >> 4) & 0xF);
-        t.Net = quint8(u >> 8);
-        t.targetIP = {10, 0, qint32(u / 256), qint32(u % 256)};
-        PatchFixture f;
-        // Spread the pixels evenly: about 244 per universe.
-        const int count = (kPixels - placed) / (kUniverses - u);
-        for (int i = 0; i < count; ++i) {
-            LedRecord r;
-            r.posX = quint16(i % 17);
-            r.posY = quint16(i / 17);
-            r.address = quint16((3 * i) % 510);
-            r.roles = {RoleRed, RoleGreen, RoleBlue};
-            f.leds.append(r);
-        }
-        placed += f.leds.size();
-        f.hasLayout = true;
-        f.countX = 17;
-        f.countY = quint16((f.leds.size() + 16) / 17);
-        f.scenePosX = (u % 64) * 180.0;
-        f.scenePosY = (u / 64) * 260.0;
-        f.rect = QRectF(0, 0, 170, 10.0 * f.countY);
-        t.fixtures.append(f);
-        patch.groups[u * kGroups / kUniverses].torvoverses.append(t);
-    }
-    return patch;
-}
-
 double median(std::vector<double> v)
 {
     std::sort(v.begin(), v.end());
@@ -79,7 +36,7 @@ double median(std::vector<double> v)
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    const TPatch::PatchData patch = makePatch();
+    const TPatch::PatchData patch = makeLargePatch(kGroups, kUniverses, kPixels);
     const TPatch::PixelLayout layout = TPatch::buildPixelLayout(patch);
     std::printf("patch: %d groups, %d universes, %lld pixels in the layout\n", kGroups, kUniverses,
                 static_cast<long long>(layout.pixels.size()));

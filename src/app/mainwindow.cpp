@@ -218,6 +218,7 @@ QWidget *MainWindow::buildRightArea()
 void MainWindow::wireMonitorBar()
 {
     connect(m_fitButton, &QPushButton::clicked, this, &MainWindow::onFitToView);
+    connect(m_monitorTabs, &QTabWidget::currentChanged, this, &MainWindow::pushMonitor);
     connect(m_snapshotButton, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
     connect(m_whiteCheck, &QCheckBox::toggled, this, &MainWindow::onWhiteChannelsToggled);
     connect(m_axesCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
@@ -290,9 +291,14 @@ void MainWindow::wireGroupFilter()
 
 void MainWindow::pushMonitor()
 {
-    m_view2d->refresh();
-    m_view3d->setColours(m_colours.colours());
-    m_view3d->setKinetics(m_colours.kineticValues());
+    // Only the view on show: mapping a large patch's colours into the hidden
+    // 3D model costs as much as painting, and a tab change brings it up to date.
+    if (m_monitorTabs->currentIndex() == View3DTab) {
+        m_view3d->setColours(m_colours.colours());
+        m_view3d->setKinetics(m_colours.kineticValues());
+    } else {
+        m_view2d->refresh();
+    }
     m_dmxInspector->setUniverseData(m_inspectedUniverse < 0 ? QByteArray()
                                                             : m_colours.universeData(quint16(m_inspectedUniverse)));
 }

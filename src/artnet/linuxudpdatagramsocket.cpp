@@ -79,7 +79,9 @@ int LinuxUdpDatagramSocket::openBound(quint32 ip, quint16 port, int receiveBuffe
     // the announcements.
     ::setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one);
     ::setsockopt(fd, SOL_SOCKET, SO_BROADCAST, &one, sizeof one);
-    ::setsockopt(fd, SOL_SOCKET, SO_RCVBUF, &receiveBufferBytes, sizeof receiveBufferBytes);
+    // Past net.core.rmem_max only with CAP_NET_ADMIN; otherwise the capped size.
+    if (::setsockopt(fd, SOL_SOCKET, SO_RCVBUFFORCE, &receiveBufferBytes, sizeof receiveBufferBytes) != 0)
+        ::setsockopt(fd, SOL_SOCKET, SO_RCVBUF, &receiveBufferBytes, sizeof receiveBufferBytes);
     sockaddr_in local{};
     local.sin_family = AF_INET;
     local.sin_port = htons(port);
