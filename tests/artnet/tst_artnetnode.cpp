@@ -99,7 +99,7 @@ void TestArtNetNode::startBindsAndAnnounces()
     QVERIFY(m_node->isRunning());
     QCOMPARE(m_socket->boundAddress, QHostAddress(QHostAddress::AnyIPv4));
     QCOMPARE(m_socket->boundPort, quint16(6454));
-    QCOMPARE(m_socket->receiveBufferBytes, 1 << 20);
+    QVERIFY(m_socket->receiveBufferBytes >= 6 << 20); // 30 ms of paint at 100,000 packets/s
     QCOMPARE(destinationsOf(m_socket->sent), (Destinations{{kBroadcast.toString(), 6454}, {kBroadcast.toString(), 6454}}));
     QVERIFY(status.count() >= 1);
 
