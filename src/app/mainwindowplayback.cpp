@@ -297,9 +297,19 @@ void MainWindow::showPerformance()
 void MainWindow::onWhiteChannelsToggled(bool on)
 {
     m_colours.setWhiteEnabled(on);
-    // Show the frame again at once instead of waiting for the next one.
-    if (m_recordedRadio->isChecked() && currentSourceFrames() > 0)
-        showFrame(m_currentFrame);
+    // Show the picture again at once instead of waiting for the next frame or packet.
+    if (m_recordedRadio->isChecked()) {
+        if (currentSourceFrames() > 0)
+            showFrame(m_currentFrame);
+    } else {
+        for (auto it = m_layout.portAddressPixels.cbegin(); it != m_layout.portAddressPixels.cend(); ++it) {
+            const QByteArray data = m_colours.universeData(it.key());
+            if (!data.isEmpty())
+                m_colours.applyUniverse(it.value(), reinterpret_cast<const quint8 *>(data.constData()),
+                                        int(data.size()));
+        }
+        pushMonitor();
+    }
     reportWhiteChannelState(on);
     saveSettings();
 }
