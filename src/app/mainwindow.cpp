@@ -106,10 +106,13 @@ MainWindow::~MainWindow()
     saveSettings();
     m_clock->stop();
     m_clock->wait();
-    // Node stopped, then the live recording file closed, before the members go.
+    // Node stopped, then the live recording file closed, before the members go;
+    // the node's last status signal must not reach a window being taken apart.
     if (m_live) {
+        disconnect(&m_live->node(), nullptr, this, nullptr);
         m_live->node().stop();
         m_live->stopRecording();
+        m_live.reset();
     }
 }
 
@@ -271,6 +274,7 @@ void MainWindow::wirePanels()
     connect(m_broadcastPanel, &BroadcastPanel::recordStartRequested, this, &MainWindow::onRecordStart);
     connect(m_broadcastPanel, &BroadcastPanel::recordStopRequested, this, &MainWindow::onRecordStop);
     connect(m_broadcastPanel, &BroadcastPanel::refreshInterfacesRequested, this, &MainWindow::onBroadcastRefresh);
+    connect(m_broadcastPanel, &BroadcastPanel::identityChanged, this, &MainWindow::onIdentityChanged);
 }
 
 void MainWindow::wireGroupFilter()
@@ -503,7 +507,23 @@ void MainWindow::saveSettings()
 
 void MainWindow::onModeChanged()
 {
+    // One source paints the monitor at a time. Leaving playback pauses it;
+    // leaving live stops feeding the monitor, but a running node and its
+    // recording go on (a recording is never cut short by a look elsewhere).
+    if (m_liveRadio->isChecked()) {
+        stopClock();
+        if (m_live && m_live->node().isRunning()) {
+            m_live->setColourTarget(&m_colours, &m_layout);
+            m_liveRepaintTimer.start();
+        }
+    } else if (m_live) {
+        m_live->setColourTarget(nullptr, nullptr);
+        m_liveRepaintTimer.stop();
+    }
+    clearLiveState();
     applySourceMode();
+    if (m_recordedRadio->isChecked() && currentSourceFrames() > 0)
+        showFrame(m_currentFrame);
 }
 
 void MainWindow::applySourceMode()

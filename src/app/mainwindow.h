@@ -128,8 +128,8 @@ private:
     void wireGroupFilter();
     void retranslateUi();
     void applySourceMode();
-    // Hands the colour buffer's current lists to both views and the inspected
-    // universe's bytes to the inspector.
+    // Hands the colour buffer's current lists to the view on show and the
+    // inspected universe's bytes to the inspector.
     void pushMonitor();
     // Drops every colour and the inspector's bytes (the monitor goes dark).
     void clearLiveState();
@@ -156,6 +156,7 @@ private:
     void onLiveRepaint();
     void refreshBroadcastStatus();
     void onRecordingFailed(const QString &reason);
+    void onIdentityChanged();
     QVector<quint16> advertisedUniverses() const;
 
     // Left column
@@ -207,6 +208,8 @@ private:
     // Every run of the clock ends with one finished signal, also a run we
     // stopped ourselves; those are counted here and not reported as the end.
     int m_stopsPending = 0;
+    // Ticks already queued when the window stops the clock arrive afterwards; they are dropped.
+    bool m_ticksWanted = false;
     std::unique_ptr<PacketLog::PacketJournal> m_journal;
     qint64 m_currentFrame = 0;
     std::unique_ptr<Recording> m_recording;

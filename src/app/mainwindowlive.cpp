@@ -56,6 +56,13 @@ void MainWindow::onBroadcastStart()
     saveSettings();
 }
 
+void MainWindow::onIdentityChanged()
+{
+    // A running node answers the next poll, and announces, with the new names.
+    if (m_live && m_live->node().isRunning())
+        m_live->node().setIdentity(m_broadcastPanel->identity());
+}
+
 void MainWindow::showListeningStatus(const QString &address, quint16 port, int universeCount)
 {
     m_broadcastPanel->setListenMessage(

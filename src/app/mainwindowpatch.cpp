@@ -112,6 +112,9 @@ void MainWindow::onUploadRequested(const QString &path)
         m_playbackPanel->setMessage([] { return tr("No recording loaded."); }, 0);
 
     m_dmxInspector->setUniverses(advertisedUniverses());
+    // The paths of the set in hand stay remembered for the new patch's groups.
+    if (m_gpsPanel->groupCount() > 0)
+        m_rememberedGpsPaths = m_gpsPanel->paths();
     m_gpsSet.setGroups(m_patch);
     m_gpsPanel->setGroups(GpsPanelGroup::fromExpectation(GpsPatchExpectation::fromPatch(m_patch)));
     m_gpsPanel->setPaths(m_rememberedGpsPaths);

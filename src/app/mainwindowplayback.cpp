@@ -61,6 +61,7 @@ bool MainWindow::refuseWithoutSource()
 
 void MainWindow::stopClock()
 {
+    m_ticksWanted = false;
     if (m_clock->isPlaying()) {
         ++m_stopsPending; // its finished signal is ours, not the end of the recording
         m_clock->stop();
@@ -90,6 +91,7 @@ void MainWindow::onPlayPause()
     m_clock->seek(m_currentFrame);
     m_lastTickFrame = -1;
     m_droppedFrames = 0;
+    m_ticksWanted = true;
     m_clock->play();
     m_performanceTimer.start();
     if (gps) {
@@ -108,6 +110,8 @@ void MainWindow::onPlaybackFinished()
         --m_stopsPending; // a run we stopped ourselves
         return;
     }
+    if (m_clock->isPlaying())
+        return; // the end of an earlier run, arriving after a new one began
     stopClock();
     showStatus([] { return tr("Reached the end of the recording."); }, 0);
 }
@@ -253,6 +257,10 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
 
 void MainWindow::onFrameTick(qint64 frame)
 {
+    if (!m_ticksWanted) {
+        m_clock->acknowledge(); // queued before a stop: the frame shown stays
+        return;
+    }
     // A jump forward of more than one frame means the clock dropped frames
     // while this thread was busy; a jump back is a loop or a seek.
     if (m_lastTickFrame >= 0 && frame > m_lastTickFrame + 1)

@@ -98,11 +98,11 @@ void LinuxUdpDatagramSocket::watch(int fd)
 {
     auto notifier = std::make_unique<QSocketNotifier>(qintptr(fd), QSocketNotifier::Read);
     QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] {
-        const quint64 before = m_datagramsRead;
+        const quint64 before = m_datagramsRead + m_datagramsDropped;
         if (m_readyRead)
             m_readyRead();
         // The handler may have closed us (stop() from a slot).
-        if (m_notifier && m_datagramsRead != before) {
+        if (m_notifier && m_datagramsRead + m_datagramsDropped != before) {
             m_notifier->setEnabled(false);
             for (const auto &n : m_broadcastNotifiers)
                 n->setEnabled(false);
@@ -113,6 +113,17 @@ void LinuxUdpDatagramSocket::watch(int fd)
         m_notifier = std::move(notifier);
     else
         m_broadcastNotifiers.push_back(std::move(notifier));
+}
+
+quint32 LinuxUdpDatagramSocket::subnetBroadcast(quint32 ip, quint32 netmask, quint32 broadcast)
+{
+    // /31 and /32 have no broadcast address of their own (a /31's other
+    // address is the peer); an interface whose broadcast is 255.255.255.255
+    // is served by the limited-broadcast receiver alone.
+    if (netmask >= 0xFFFFFFFEu)
+        return 0;
+    const quint32 b = broadcast != 0 ? broadcast : ((ip & netmask) | ~netmask);
+    return b == INADDR_BROADCAST || b == ip ? 0 : b;
 }
 
 void LinuxUdpDatagramSocket::addBroadcastReceivers(quint32 ip, quint16 port, int receiveBufferBytes)
@@ -126,14 +137,20 @@ void LinuxUdpDatagramSocket::addBroadcastReceivers(quint32 ip, quint16 port, int
             m_subnet = ip & m_netmask;
             // An address set without "brd" still has its subnet's broadcast address.
             const quint32 broadcast =
-                entry.broadcast().isNull() ? (m_subnet | ~m_netmask) : entry.broadcast().toIPv4Address();
+                subnetBroadcast(ip, m_netmask, entry.broadcast().isNull() ? 0 : entry.broadcast().toIPv4Address());
             // A receiver that cannot be opened costs broadcasts, not the node: the bind stands.
-            const int subnetFd = m_netmask == 0xFFFFFFFFu ? -1 : openBound(broadcast, port, receiveBufferBytes);
-            if (subnetFd >= 0)
-                m_broadcastFds.push_back(subnetFd);
+            if (broadcast != 0) {
+                const int subnetFd = openBound(broadcast, port, receiveBufferBytes);
+                if (subnetFd >= 0)
+                    m_broadcastFds.push_back(subnetFd);
+                else
+                    qWarning("Art-Net node: subnet broadcasts will not be heard: %s", qPrintable(m_error));
+            }
             m_limitedBroadcastFd = openBound(INADDR_BROADCAST, port, receiveBufferBytes);
             if (m_limitedBroadcastFd >= 0)
                 m_broadcastFds.push_back(m_limitedBroadcastFd);
+            else
+                qWarning("Art-Net node: broadcasts to 255.255.255.255 will not be heard: %s", qPrintable(m_error));
             m_error.clear();
             return;
         }
@@ -196,18 +213,24 @@ bool LinuxUdpDatagramSocket::fillBatchFrom(int fd) const
         h.msg_controllen = 0;
         h.msg_flags = 0;
     }
-    int n;
-    do {
-        n = ::recvmmsg(fd, b.messages, kBatch, MSG_DONTWAIT, nullptr);
-    } while (n < 0 && errno == EINTR);
     b.count = 0;
-    for (int i = 0; i < n; ++i) {
-        // 255.255.255.255 arrives from every interface: keep our segment's only.
-        const quint32 sender = ntohl(b.senders[i].sin_addr.s_addr);
-        if (fd == m_limitedBroadcastFd && (sender & m_netmask) != m_subnet)
-            continue;
-        b.keep[b.count++] = i;
-    }
+    int n = 0;
+    // A batch from the limited-broadcast receiver may hold other segments'
+    // datagrams only; read on while whole batches are dropped.
+    do {
+        do {
+            n = ::recvmmsg(fd, b.messages, kBatch, MSG_DONTWAIT, nullptr);
+        } while (n < 0 && errno == EINTR);
+        for (int i = 0; i < n; ++i) {
+            // 255.255.255.255 arrives from every interface: keep our segment's only.
+            const quint32 sender = ntohl(b.senders[i].sin_addr.s_addr);
+            if (fd == m_limitedBroadcastFd && (sender & m_netmask) != m_subnet) {
+                ++m_datagramsDropped; // read all the same: the coalescing pause counts it
+                continue;
+            }
+            b.keep[b.count++] = i;
+        }
+    } while (b.count == 0 && n == kBatch);
     return b.count > 0;
 }
 

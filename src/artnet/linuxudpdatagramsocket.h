@@ -42,6 +42,10 @@ public:
     qint64 writeDatagram(QByteArrayView bytes, const QHostAddress &host, quint16 port) override;
 
     static constexpr int kBatch = 32;
+    // The subnet broadcast address to listen on for an interface address, or
+    // 0 when there is none worth a receiver of its own. broadcast: what the
+    // interface reports, 0 when it reports none.
+    static quint32 subnetBroadcast(quint32 ip, quint32 netmask, quint32 broadcast);
     // After a wake-up that delivered datagrams the socket is not watched for
     // this long, so a flood is read in batches rather than one wake-up (and
     // two context switches) per datagram. The receive buffer holds well over
@@ -70,6 +74,7 @@ private:
     std::function<void()> m_readyRead;
     QTimer m_resume;
     quint64 m_datagramsRead = 0;
+    mutable quint64 m_datagramsDropped = 0; // other segments' limited broadcasts
 
     // The batch is refilled from hasPendingDatagrams(), which is const in the
     // interface; it is a read-ahead buffer, not observable state.

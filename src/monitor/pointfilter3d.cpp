@@ -7,41 +7,40 @@
 void PointFilter3D::setPoints(const QVector<TPatch::LayoutPixel> &pixels, const QVector<int> &pointPixels)
 {
     m_pointKeys.resize(pointPixels.size());
-    m_pointGroups.resize(pointPixels.size());
-    m_allGroups.clear();
+    m_torvoverses.clear();
     for (qsizetype i = 0; i < pointPixels.size(); ++i) {
         const int p = pointPixels.at(i);
         const bool known = p >= 0 && p < pixels.size();
-        const int group = known ? pixels.at(p).groupIndex : -1;
-        m_pointGroups[i] = group;
-        m_pointKeys[i] = known ? key(group, pixels.at(p).torvoverseIndex) : key(-1, -1);
-        m_allGroups.insert(group);
+        m_pointKeys[i] = known ? key(pixels.at(p).groupIndex, pixels.at(p).torvoverseIndex) : key(-1, -1);
+        m_torvoverses.insert(m_pointKeys[i]);
     }
-    m_hiddenGroups.clear();
-    m_hiddenTorvoverses.clear();
+    m_hidden.clear();
     m_highlight = -1;
 }
 
 void PointFilter3D::setAllVisible(bool visible)
 {
-    m_hiddenTorvoverses.clear();
-    m_hiddenGroups = visible ? QSet<int>() : m_allGroups;
+    m_hidden = visible ? QSet<quint64>() : m_torvoverses;
 }
 
 void PointFilter3D::setGroupVisible(int group, bool visible)
 {
-    if (visible)
-        m_hiddenGroups.remove(group);
-    else
-        m_hiddenGroups.insert(group);
+    for (const quint64 k : std::as_const(m_torvoverses)) {
+        if (int(k >> 32) != group)
+            continue;
+        if (visible)
+            m_hidden.remove(k);
+        else
+            m_hidden.insert(k);
+    }
 }
 
 void PointFilter3D::setTorvoverseVisible(int group, int torvoverse, bool visible)
 {
     if (visible)
-        m_hiddenTorvoverses.remove(key(group, torvoverse));
+        m_hidden.remove(key(group, torvoverse));
     else
-        m_hiddenTorvoverses.insert(key(group, torvoverse));
+        m_hidden.insert(key(group, torvoverse));
 }
 
 void PointFilter3D::setHighlight(int group, int torvoverse)
@@ -56,7 +55,7 @@ void PointFilter3D::apply(const QRgb *in, QRgb *out, qsizetype count) const
     bool haveDarker = false;
     for (qsizetype i = 0; i < n; ++i) {
         const quint64 k = m_pointKeys.at(i);
-        if (m_hiddenGroups.contains(m_pointGroups.at(i)) || m_hiddenTorvoverses.contains(k)) {
+        if (!m_hidden.isEmpty() && m_hidden.contains(k)) {
             out[i] = 0; // alpha 0: not drawn
             continue;
         }

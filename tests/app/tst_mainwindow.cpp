@@ -298,7 +298,7 @@ void TestMainWindow::monitorBarDrivesTheViews()
             b->click();
     QCOMPARE(view2d->canvas()->scene2d().visiblePixels().size(), 0);
     const QVector<QRgb> &points = view3d->renderer()->scene3d().colours();
-    QVERIFY(std::all_of(points.cbegin(), points.cend(), [](QRgb c) { return qAlpha(c) == 0; }));
+    QTRY_VERIFY(std::all_of(points.cbegin(), points.cend(), [](QRgb c) { return qAlpha(c) == 0; }));
     QCOMPARE(inspector->currentUniverse() >= 0, true);
 
     // Auto orbit: the box starts it; touching the view stops it and unchecks the box.

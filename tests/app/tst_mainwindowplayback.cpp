@@ -106,9 +106,12 @@ void TestMainWindowPlayback::recordingPlaysPausesRewindsAndSeeks()
     QTRY_VERIFY(w.currentFrame() > 3);
     click(panel, QStringLiteral("Pause"));
     QCOMPARE(status(w), QStringLiteral("Playback paused."));
-    QTest::qWait(100); // the clock's own end of run arrives queued: it is not the end of the recording
-    QCOMPARE(status(w), QStringLiteral("Playback paused."));
     const qint64 pausedAt = w.currentFrame();
+    // The clock's end of run and a tick it had already sent arrive queued: neither
+    // is the end of the recording, neither moves the picture.
+    QTest::qWait(100);
+    QCOMPARE(status(w), QStringLiteral("Playback paused."));
+    QCOMPARE(w.currentFrame(), pausedAt);
     QCOMPARE(frameLabel(panel), QStringLiteral("Frame %1 / 120").arg(pausedAt));
 
     // The rate box drives the clock and says what it means.
@@ -121,8 +124,20 @@ void TestMainWindowPlayback::recordingPlaysPausesRewindsAndSeeks()
     click(panel, QStringLiteral("Loop playback"));
     QVERIFY(!w.clock()->isLooping());
 
+    // Another source mode pauses playback: one source paints the monitor at a time.
+    click(panel, QStringLiteral("Play"));
+    QVERIFY(w.clock()->isPlaying());
+    click(&w, QStringLiteral("Live broadcast"));
+    QVERIFY(!w.clock()->isPlaying());
+    const qint64 leftAt = w.currentFrame();
+    QTest::qWait(100);
+    QCOMPARE(w.currentFrame(), leftAt);
+    click(&w, QStringLiteral("Recorded playback"));
+
     click(panel, QStringLiteral("Rewind"));
     QCOMPARE(status(w), QStringLiteral("Rewound to the first frame."));
+    emit w.clock()->tick(57); // one more tick from the run just stopped
+    QCoreApplication::processEvents();
     QCOMPARE(w.currentFrame(), 0);
     QCOMPARE(panel->findChild<QSlider *>()->value(), 0);
     QTest::keyClick(panel->findChild<QSlider *>(), Qt::Key_End);
@@ -253,6 +268,10 @@ void TestMainWindowPlayback::gpsSetAutoFillsLoadsAndPlays()
                                                          "recordings are named <name>_<Group>.tpx."));
     w.onGpsAutoFill(kDemoGps);
     QCOMPARE(gps->messageLabel()->text(), QStringLiteral("Matched all 4 group(s). Press Load set to verify them."));
+    // Loading the patch again keeps the files the user chose.
+    const QStringList chosen = gps->paths();
+    uploadPatch(w);
+    QCOMPARE(gps->paths(), chosen);
     click(gps, QStringLiteral("Load set"));
     QVERIFY(w.gpsSet().isLoaded());
     const qint64 frames = w.gpsSet().frameCount();

@@ -1,4 +1,5 @@
 #include "artnet/artnetnode.h"
+#include "artnet/linuxudpdatagramsocket.h"
 
 #include "fakenodeseams.h"
 
@@ -34,6 +35,10 @@ class TestArtNetNode : public QObject
     Q_OBJECT
 
 private slots:
+#ifdef Q_OS_LINUX
+    void broadcastReceiverAddress_data();
+    void broadcastReceiverAddress();
+#endif
     void init();
     void cleanup();
 
@@ -386,6 +391,34 @@ void TestArtNetNode::pollFloodIsAnsweredEveryTime()
     QCOMPARE(m_socket->sent.size(), 5000 * 3 * 2);
     QCOMPARE(m_node->stats().ignored, quint64(0));
 }
+
+#ifdef Q_OS_LINUX
+void TestArtNetNode::broadcastReceiverAddress_data()
+{
+    QTest::addColumn<QString>("ip");
+    QTest::addColumn<int>("prefix");
+    QTest::addColumn<QString>("reported"); // "" when the interface reports none
+    QTest::addColumn<QString>("expected"); // "" for no receiver of its own
+    QTest::newRow("/24 as reported") << "192.0.2.1" << 24 << "192.0.2.255" << "192.0.2.255";
+    QTest::newRow("/24 without brd") << "192.0.2.1" << 24 << "" << "192.0.2.255";
+    QTest::newRow("/8, Art-Net's 2.x.x.x") << "2.0.0.11" << 8 << "" << "2.255.255.255";
+    QTest::newRow("brd 255.255.255.255") << "192.0.2.1" << 24 << "255.255.255.255" << "";
+    QTest::newRow("/31 has none") << "192.0.2.0" << 31 << "" << "";
+    QTest::newRow("/32 has none") << "192.0.2.7" << 32 << "" << "";
+}
+
+void TestArtNetNode::broadcastReceiverAddress()
+{
+    QFETCH(QString, ip);
+    QFETCH(int, prefix);
+    QFETCH(QString, reported);
+    QFETCH(QString, expected);
+    const quint32 netmask = prefix == 0 ? 0 : ~quint32(0) << (32 - prefix);
+    const quint32 got = LinuxUdpDatagramSocket::subnetBroadcast(QHostAddress(ip).toIPv4Address(), netmask,
+                                                                reported.isEmpty() ? 0 : QHostAddress(reported).toIPv4Address());
+    QCOMPARE(got == 0 ? QString() : QHostAddress(got).toString(), expected);
+}
+#endif
 
 QTEST_GUILESS_MAIN(TestArtNetNode)
 #include "tst_artnetnode.moc"

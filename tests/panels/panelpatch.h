@@ -10,7 +10,7 @@
 // row by row.
 namespace PanelPatch {
 
-struct TorvoSpec
+struct TorvoverseRow
 {
     QString name;
     int universe = 0;
@@ -21,18 +21,18 @@ struct TorvoSpec
     QVector<qint32> targetIp{10, 0, 0, 1};
 };
 
-inline TPatch::Torvoverse torvoverse(const TorvoSpec &spec)
+inline TPatch::Torvoverse torvoverse(const TorvoverseRow &row)
 {
     TPatch::Torvoverse tv;
-    tv.torvoverseName = spec.name;
-    tv.universe = quint16(spec.universe);
-    tv.subNet = quint8(spec.subNet);
-    tv.Net = quint8(spec.net);
-    tv.targetIP = spec.targetIp;
+    tv.torvoverseName = row.name;
+    tv.universe = quint16(row.universe);
+    tv.subNet = quint8(row.subNet);
+    tv.Net = quint8(row.net);
+    tv.targetIP = row.targetIp;
     TPatch::PatchFixture fixture;
-    for (int i = 0; i < spec.pixels; ++i) {
+    for (int i = 0; i < row.pixels; ++i) {
         TPatch::LedRecord led;
-        led.address = quint16(spec.firstAddress + 3 * i);
+        led.address = quint16(row.firstAddress + 3 * i);
         led.roles = {TPatch::RoleRed, TPatch::RoleGreen, TPatch::RoleBlue};
         fixture.leds.append(led);
     }
@@ -40,12 +40,12 @@ inline TPatch::Torvoverse torvoverse(const TorvoSpec &spec)
     return tv;
 }
 
-inline TPatch::PatchGroup group(const QString &name, const QVector<TorvoSpec> &torvoverses)
+inline TPatch::PatchGroup group(const QString &name, const QVector<TorvoverseRow> &torvoverses)
 {
     TPatch::PatchGroup g;
     g.groupName = name;
-    for (const TorvoSpec &spec : torvoverses)
-        g.torvoverses.append(torvoverse(spec));
+    for (const TorvoverseRow &row : torvoverses)
+        g.torvoverses.append(torvoverse(row));
     return g;
 }
 

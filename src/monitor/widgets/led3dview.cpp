@@ -30,6 +30,9 @@ Led3DView::Led3DView(QWidget *parent) : QGraphicsView(parent)
     setBackgroundBrush(QColor(50, 50, 50));
     m_orbitTimer.setInterval(AutoOrbit3D::kIntervalMs);
     connect(&m_orbitTimer, &QTimer::timeout, this, &Led3DView::onAutoMovementTick);
+    m_filterTimer.setSingleShot(true);
+    m_filterTimer.setInterval(0);
+    connect(&m_filterTimer, &QTimer::timeout, this, &Led3DView::showFilteredColours);
 }
 
 Camera3D &Led3DView::cam()
@@ -83,25 +86,25 @@ void Led3DView::showFilteredColours()
 void Led3DView::setAllVisible(bool visible)
 {
     m_filter.setAllVisible(visible);
-    showFilteredColours();
+    m_filterTimer.start();
 }
 
 void Led3DView::setGroupVisible(int group, bool visible)
 {
     m_filter.setGroupVisible(group, visible);
-    showFilteredColours();
+    m_filterTimer.start();
 }
 
 void Led3DView::setTorvoverseVisible(int group, int torvoverse, bool visible)
 {
     m_filter.setTorvoverseVisible(group, torvoverse, visible);
-    showFilteredColours();
+    m_filterTimer.start();
 }
 
 void Led3DView::setHighlight(int group, int torvoverse)
 {
     m_filter.setHighlight(group, torvoverse);
-    showFilteredColours();
+    m_filterTimer.start();
 }
 
 void Led3DView::setKinetics(const QVector<float> &kineticValues)

@@ -30,6 +30,8 @@ public:
     void setKinetics(const QVector<float> &kineticValues);
 
     // The group filter's inputs (Z layers stay apart in depth and are all drawn).
+    // Applied once when control returns to the event loop: unchecking a group
+    // arrives as one call per torvoverse, and each pass touches every point.
     void setAllVisible(bool visible);
     void setGroupVisible(int group, bool visible);
     void setTorvoverseVisible(int group, int torvoverse, bool visible);
@@ -80,6 +82,7 @@ private:
     QVector<int> m_pointPixels;
     QVector<int> m_kineticPixels;
     PointFilter3D m_filter;
+    QTimer m_filterTimer; // single shot, 0 ms: coalesces filter changes
     QVector<QRgb> m_rawColours;    // per point, as the colour buffer has them
     QVector<QRgb> m_pointColours;  // scratch, sized with the model: the filtered colours
     QVector<float> m_kineticScratch;
