@@ -9,26 +9,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
-
-// Restores the guard flag on every way out of a programmatic change.
-class GuardScope
-{
-public:
-    explicit GuardScope(bool &flag) : m_flag(flag), m_old(flag) { m_flag = true; }
-    ~GuardScope() { m_flag = m_old; }
-    GuardScope(const GuardScope &) = delete;
-    GuardScope &operator=(const GuardScope &) = delete;
-
-private:
-    bool &m_flag;
-    bool m_old;
-};
 
 bool isTorvoverseRow(const QTreeWidgetItem *item)
 {
@@ -114,7 +101,7 @@ void GroupFilterPanel::retranslateUi()
     m_allZ->setToolTip(tr("Draw every Z layer at once. Layers overlap in 2D, so this is a quick look rather than "
                           "an inspection view."));
     {
-        GuardScope guard(m_guard); // new texts are not check changes
+        const QScopedValueRollback<bool> guard(m_guard, true); // new texts are not check changes
         for (int g = 0; g < m_tree->topLevelItemCount(); ++g) {
             QTreeWidgetItem *group = m_tree->topLevelItem(g);
             showRowTexts(group);
@@ -154,7 +141,7 @@ void GroupFilterPanel::showRowTexts(QTreeWidgetItem *item)
 
 void GroupFilterPanel::setPatch(const TPatch::PatchData &patch, const TPatch::PixelLayout &layout)
 {
-    GuardScope guard(m_guard);
+    const QScopedValueRollback<bool> guard(m_guard, true);
     m_tree->clear();
 
     QVector<qint64> groupPixels(patch.groups.size(), 0);
@@ -223,7 +210,7 @@ void GroupFilterPanel::setPatch(const TPatch::PatchData &patch, const TPatch::Pi
 
 void GroupFilterPanel::clear()
 {
-    GuardScope guard(m_guard);
+    const QScopedValueRollback<bool> guard(m_guard, true);
     m_tree->clear();
     m_zBox->setRange(0, 0);
     m_zBox->setValue(0);
@@ -250,7 +237,7 @@ void GroupFilterPanel::showLayerLabel()
 
 void GroupFilterPanel::setEveryCheckState(Qt::CheckState state)
 {
-    GuardScope guard(m_guard);
+    const QScopedValueRollback<bool> guard(m_guard, true);
     for (int g = 0; g < m_tree->topLevelItemCount(); ++g) {
         QTreeWidgetItem *group = m_tree->topLevelItem(g);
         group->setCheckState(0, state);
@@ -282,7 +269,7 @@ void GroupFilterPanel::onItemChanged(QTreeWidgetItem *item, int column)
         return;
     }
     {
-        GuardScope guard(m_guard);
+        const QScopedValueRollback<bool> guard(m_guard, true);
         for (int i = 0; i < item->childCount(); ++i)
             item->child(i)->setCheckState(0, item->checkState(0));
     }
