@@ -18,6 +18,9 @@ DmxInspector::DmxInspector(QWidget *parent) : QWidget(parent)
     m_universeBox = new QComboBox(this);
     m_formatBox = new QComboBox(this);
     m_formatBox->addItems({QString(), QString(), QString()});
+    // Its texts arrive with retranslate(), after the box first measured itself empty.
+    m_formatBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_formatBox->setMinimumContentsLength(9); // "Decimal" and the style sheet's padding
     // Linked labels: a screen reader names a combo box by its label, not by its value.
     m_universeLabel = new QLabel(this);
     m_universeLabel->setBuddy(m_universeBox);
