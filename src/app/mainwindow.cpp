@@ -6,7 +6,6 @@
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
-#include "packetlog/packetjournal.h"
 #include "panels/currentpagestack.h"
 #include "panels/currentpagetabs.h"
 #include "panels/gpsplaybackpanel.h"
@@ -64,7 +63,6 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     resize(1420, 880);
 
     m_clock = new PlaybackClock(this);
-    m_journal = std::make_unique<PacketLog::PacketJournal>();
     m_recording = std::make_unique<Recording>();
 
     buildCentralWidget();

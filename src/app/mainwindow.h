@@ -34,9 +34,6 @@ class PatchSummaryPanel;
 class PlaybackClock;
 class PlaybackPanel;
 class Recording;
-namespace PacketLog {
-class PacketJournal;
-}
 
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
@@ -210,7 +207,6 @@ private:
     int m_stopsPending = 0;
     // Ticks already queued when the window stops the clock arrive afterwards; they are dropped.
     bool m_ticksWanted = false;
-    std::unique_ptr<PacketLog::PacketJournal> m_journal;
     qint64 m_currentFrame = 0;
     std::unique_ptr<Recording> m_recording;
     GpsSyncSet m_gpsSet;

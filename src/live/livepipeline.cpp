@@ -18,12 +18,32 @@ LivePipeline::LivePipeline(std::unique_ptr<ArtNetNode> node, QObject *parent)
     : QObject(parent), m_node(node ? std::move(node) : std::make_unique<ArtNetNode>())
 {
     connect(m_node.get(), &ArtNetNode::dmxReceived, this, &LivePipeline::onDmxReceived);
+    m_node->setPacketJournal(&m_journalFeed);
+}
+
+void LivePipeline::JournalFeed::journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort,
+                                                QByteArrayView bytes, qint64 writeResult)
+{
+    const ArtNetNode &node = *m_pipeline.m_node;
+    PacketLog::PacketEvent event;
+    event.direction = direction == Direction::Sent ? PacketLog::Direction::Out : PacketLog::Direction::In;
+    event.localIp = node.bindAddress().toIPv4Address();
+    event.localPort = node.port();
+    event.peerIp = peer.toIPv4Address();
+    event.peerPort = peerPort;
+    event.bytes = bytes;
+    if (direction == Direction::Sent && writeResult < 0)
+        event.outcome = PacketLog::Outcome::Failed;
+    else if (direction == Direction::Sent && writeResult < bytes.size())
+        event.outcome = PacketLog::Outcome::Partial;
+    m_pipeline.m_journal.append(event);
 }
 
 LivePipeline::~LivePipeline()
 {
     // The node first, so no packet arrives for a closing file.
     m_node->stop();
+    m_node->setPacketJournal(nullptr);
     stopRecording();
 }
 

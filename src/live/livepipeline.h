@@ -1,6 +1,7 @@
 #pragma once
 
 #include "artnet/artnetnode.h"
+#include "packetlog/packetjournal.h"
 #include "recording/recordingwriter.h"
 
 #include <QObject>
@@ -18,7 +19,8 @@ struct PixelLayout;
 // ArtDmx the node receives goes, in this order, to the recording writer while
 // one is open, into the colour buffer against the pixels patched on its
 // Port-Address (the buffer also keeps the bytes for the DMX inspector), and
-// then raises the dirty flag. Nothing is painted here: the owner repaints on
+// then raises the dirty flag. Every datagram the node sends or receives also
+// goes into the packet journal while it is enabled. Nothing is painted here: the owner repaints on
 // its own timer when takeDirty() says something changed.
 //
 // Threads: GUI thread only (the node runs on it).
@@ -36,6 +38,8 @@ public:
 
     ArtNetNode &node() { return *m_node; }
     const ArtNetNode &node() const { return *m_node; }
+    // The packet log of this node (enabled from the start).
+    PacketLog::PacketJournal &journal() { return m_journal; }
 
     // Where received universes are evaluated (neither owned; both must stay
     // alive until replaced). Null for either: nothing is evaluated.
@@ -58,8 +62,24 @@ signals:
     void recordingFailed(const QString &reason);
 
 private:
+    // Hands the node's datagrams to the packet journal as events.
+    class JournalFeed : public PacketJournal
+    {
+    public:
+        explicit JournalFeed(LivePipeline &pipeline) : m_pipeline(pipeline) {}
+        bool isEnabled() const override { return m_pipeline.m_journal.isEnabled(); }
+        void journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort, QByteArrayView bytes,
+                             qint64 writeResult) override;
+
+    private:
+        LivePipeline &m_pipeline;
+    };
+
     void onDmxReceived(quint16 portAddress, const QByteArray &data, const QHostAddress &sender);
 
+    PacketLog::PacketJournal m_journal;
+    JournalFeed m_journalFeed{*this};
+    // Declared after the journal so it goes first: the node holds the feed.
     std::unique_ptr<ArtNetNode> m_node;
     std::unique_ptr<RecordingWriter> m_writer;
     PixelColourBuffer *m_buffer = nullptr;

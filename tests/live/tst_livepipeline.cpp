@@ -1,5 +1,6 @@
 // The live path the window and talu-cli listen share, on the node's fake
-// socket: order (writer, colours, dirty flag) and a recording that fails.
+// socket: order (writer, colours, dirty flag, packet log) and a recording
+// that fails.
 #include "../artnet/fakenodeseams.h"
 #include "../monitor/monitortestdata.h"
 #include "artnet/artnetpacket.h"
@@ -78,6 +79,16 @@ void TestLivePipeline::packetReachesWriterColoursAndDirtyFlag()
     Recording recorded;
     QVERIFY(recorded.load(path).ok);
     QCOMPARE(recorded.universes(), (QVector<quint16>{2, 9}));
+
+    // Both datagrams are in the packet log, as the node received them.
+    std::vector<PacketLog::PacketRecord> dmx;
+    for (const PacketLog::PacketRecord &r : rig.live->journal().records())
+        if (r.direction == PacketLog::Direction::In)
+            dmx.push_back(r);
+    QCOMPARE(int(dmx.size()), 2);
+    QCOMPARE(dmx.at(1).portAddress, quint16(9));
+    QCOMPARE(dmx.at(1).srcIp, QHostAddress(QStringLiteral("192.0.2.2")).toIPv4Address());
+    QCOMPARE(dmx.at(1).dstIp, QHostAddress(QStringLiteral("192.0.2.1")).toIPv4Address());
 }
 
 void TestLivePipeline::failingRecordingClosesAndSaysSoOnce()
