@@ -1,8 +1,23 @@
 #include "app/appsettings.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 std::unique_ptr<QSettings> openSettings()
 {
     return std::make_unique<QSettings>(QStringLiteral("Torvane"), QStringLiteral("ArtNetTester"));
+}
+
+QStringList withRecentPath(QStringList list, const QString &path)
+{
+    if (path.isEmpty())
+        return list;
+    const QString cleaned = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    list.removeAll(cleaned);
+    list.prepend(cleaned);
+    while (list.size() > kRecentListLength)
+        list.removeLast();
+    return list;
 }
 
 bool StoredSettings::operator==(const StoredSettings &o) const

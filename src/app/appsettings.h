@@ -35,6 +35,10 @@ inline const QString fastDraw3D = QStringLiteral("monitor/fastDraw3D");
 inline const QString viewTab = QStringLiteral("monitor/viewTab");
 inline const QString lastSnapshotDir = QStringLiteral("monitor/lastSnapshotDir");
 inline const QString windowGeometry = QStringLiteral("window/geometry");
+// The update check's own keys (not part of StoredSettings: the window never shows them).
+inline const QString updateAutoCheck = QStringLiteral("update/autoCheck");
+inline const QString updateLastCheck = QStringLiteral("update/lastCheck");
+inline const QString updateIgnoredVersion = QStringLiteral("update/ignoredVersion");
 } // namespace SettingsKey
 
 // The values the main window remembers between runs (all keys but the theme,
@@ -66,6 +70,13 @@ struct StoredSettings
 // Reads every remembered key; a missing key gives its default, a value of the
 // wrong type converts the toolkit's way (text to integer yields 0).
 StoredSettings readStoredSettings(QSettings &settings);
+
+// The recent lists hold at most this many paths, newest first.
+constexpr int kRecentListLength = 8;
+
+// list with path added at the front as an absolute, cleaned path: every equal
+// entry removed, the end cut to kRecentListLength. An empty path changes nothing.
+QStringList withRecentPath(QStringList list, const QString &path);
 
 // Writes in the fixed order the main window saves in. The geometry is written
 // only when writeGeometry is true (never while full screen).

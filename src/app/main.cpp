@@ -4,6 +4,7 @@
 #include "app/updater.h"
 #include "i18n/translator.h"
 #include "style/moxstyle.h"
+#include "talu_version.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -22,7 +23,7 @@ int main(int argc, char *argv[])
 
     QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Art-Net Tester"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TALU_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Torvane TALU - see what an LED installation shows for a "
@@ -52,14 +53,13 @@ int main(int argc, char *argv[])
     translator.applyLanguage(settings->value(SettingsKey::language, Translator::defaultLanguageId()).toString());
 
     auto window = std::make_unique<MainWindow>(&style);
-    auto updates = std::make_unique<UpdateController>(window.get());
-    updates->startBackgroundCheck();
-
+    window->setTranslator(&translator);
     window->show();
     window->openFiles(files.value(0), files.value(1));
+    // After the window is up and never in its way: the check runs on the event loop.
+    window->updateController()->startBackgroundCheck();
     const int exitCode = app->exec();
 
-    updates.reset();
     window.reset();
     settings.reset();
     icon.reset();

@@ -1,5 +1,6 @@
 #include "app/mainwindow.h"
 
+#include "app/updater.h"
 #include "artnet/widgets/broadcastpanel.h"
 #include "live/livepipeline.h"
 #include "monitor/pixeltexts.h"
@@ -69,18 +70,14 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     wirePanels();
     wireMonitorBar();
     wireGroupFilter();
+    m_updates = new UpdateController(this, this);
+    buildMenus();
+    setAcceptDrops(true);
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
     retranslateUi();
 
     loadSettings();
     applySourceMode();
-
-    // Space plays and pauses, as in the sibling controller; the Playback menu takes this action over.
-    auto *playPause = new QAction(this);
-    playPause->setObjectName(QStringLiteral("playPauseAction"));
-    playPause->setShortcut(Qt::Key_Space);
-    connect(playPause, &QAction::triggered, this, &MainWindow::onPlayPause);
-    addAction(playPause);
 
     // The clock runs in its own thread: its signals arrive queued.
     connect(m_clock, &PlaybackClock::tick, this, &MainWindow::onFrameTick, Qt::QueuedConnection);
@@ -338,14 +335,8 @@ void MainWindow::onInspectedUniverseChanged(int portAddress)
 void MainWindow::onSaveSnapshot()
 {
     const bool is3d = m_monitorTabs->currentIndex() == View3DTab;
-    const QFileInfo patchFile(m_patchPath);
-    const QString folder = !m_kept.lastSnapshotDir.isEmpty() ? m_kept.lastSnapshotDir
-                           : m_patchPath.isEmpty()           ? QString()
-                                                             : patchFile.absolutePath();
-    const QString proposed = QDir(folder).filePath(patchFile.completeBaseName()
-                                                   + (is3d ? QStringLiteral("_3d.png") : QStringLiteral("_2d.png")));
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save Monitor Snapshot"), proposed, tr("PNG Image (*.png)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Monitor Snapshot"), proposedSnapshotPath(),
+                                                      tr("PNG Image (*.png)"));
     if (path.isEmpty())
         return;
     const QImage image = is3d ? m_view3d->snapshot() : m_view2d->snapshot();
@@ -398,6 +389,7 @@ void MainWindow::retranslateUi()
     m_resetButton->setToolTip(tr("Back to the default angle and distance"));
     m_monitorTabs->setTabText(0, tr("2D"));
     m_monitorTabs->setTabText(1, tr("3D"));
+    retranslateMenus();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -495,6 +487,7 @@ void MainWindow::loadSettings()
     }
     if (!v.windowGeometry.isEmpty())
         restoreGeometry(v.windowGeometry);
+    syncMenuChecks();
 }
 
 void MainWindow::saveSettings()
@@ -530,6 +523,7 @@ void MainWindow::applySourceMode()
     m_sourceStack->setCurrentIndex(recorded ? RecordedPage : BroadcastPage);
     m_playbackTabs->setEnabled(recorded);
     m_broadcastPanel->setEnabled(!recorded);
+    enableSourceActions(recorded);
     m_broadcastPanel->setPatchLoaded(m_patchLoaded);
 }
 

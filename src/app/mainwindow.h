@@ -8,13 +8,22 @@
 #include "recording/gpssyncset.h"
 
 #include <QElapsedTimer>
+#include <QKeySequence>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
+class QAction;
 class QCheckBox;
+class QDialog;
+class QDragEnterEvent;
+class QDropEvent;
+class QMenu;
 class QGroupBox;
 class QLabel;
 class QPushButton;
@@ -34,6 +43,8 @@ class PatchSummaryPanel;
 class PlaybackClock;
 class PlaybackPanel;
 class Recording;
+class Translator;
+class UpdateController;
 
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
@@ -43,7 +54,8 @@ class Recording;
 // status line, settings), mainwindowpatch.cpp (patch loading),
 // mainwindowplayback.cpp (recorded playback and the monitor bar),
 // mainwindowgps.cpp (GPS-Sync sets), mainwindowlive.cpp (live broadcast and
-// recording). GUI thread only.
+// recording), mainwindowmenus.cpp (menus, recent lists, shortcuts, help,
+// dropped files). GUI thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -69,6 +81,19 @@ public:
     void openFiles(const QString &patchPath, const QString &recordingPath);
     // Where import reports go; empty (the default) is the program's logs folder.
     void setImportLogsFolder(const QString &folder) { m_importLogsFolder = folder; }
+
+    // The language engine the "Language..." entry drives (not owned; without
+    // one the entry only stores the choice for the next start).
+    void setTranslator(Translator *translator) { m_translator = translator; }
+    UpdateController *updateController() const { return m_updates; }
+
+    // Adds path to a recent list ("recent/patches" or "recent/recordings") and rebuilds its sub-menu.
+    void addRecentPath(const QString &path, const QString &key);
+    // The snapshot file proposed in the save dialog for the view on show.
+    QString proposedSnapshotPath() const;
+    // The menu entry with this (untranslated) text, for tests and the shortcut table.
+    QAction *menuAction(const char *text) const;
+    QMenu *recentMenu(bool patches) const { return patches ? m_recentPatchesMenu : m_recentRecordingsMenu; }
 
     bool isPatchLoaded() const { return m_patchLoaded; }
     qint64 currentFrame() const { return m_currentFrame; }
@@ -111,9 +136,14 @@ public slots:
     void onInspectedUniverseChanged(int portAddress);
     void onWhiteChannelsToggled(bool on);
     void onFastDrawToggled(bool on);
+    void copyMonitorImage();
+    void applyTheme(const QString &id);
+    void showShortcuts();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     // Construction and layout (mainwindow.cpp)
@@ -147,6 +177,41 @@ private:
     void showFrame(qint64 frame);
     void showPerformance();
     void reportWhiteChannelState(bool on);
+
+    // Menus (mainwindowmenus.cpp)
+    struct MenuEntry
+    {
+        QAction *action;
+        const char *text; // untranslated, for retranslation
+        const char *tip;  // untranslated; nullptr for none
+    };
+    void buildMenus();
+    QMenu *addMenu(QMenu *parent, const char *title);
+    // Every entry is made here: text and tip untranslated (QT_TR_NOOP), so a
+    // language change can set them again.
+    QAction *addEntry(QMenu *menu, const char *text, const QKeySequence &shortcut, const char *tip = nullptr,
+                      const QString &icon = QString());
+    // Present, disabled, "Planned for a future version.", no shortcut.
+    void addPlanned(QMenu *menu, const char *text);
+    void retranslateMenus();
+    void fillRecentMenu(QMenu *menu, const QString &key, bool isPatch);
+    // Sets the checkable entries from the state they mirror (boxes, tabs, node).
+    void syncMenuChecks();
+    void enableSourceActions(bool recorded);
+    void openPatchDialog();
+    void openRecordingDialog();
+    // A recording chosen from the menu, the recent list or a drop: Standard Art-Net playback.
+    void openRecording(const QString &path);
+    void openPatch(const QString &path);
+    void stepFrame(int delta);
+    void goToFrame();
+    void toggleListening();
+    void toggleRecording();
+    void chooseTheme();
+    void chooseLanguage();
+    void showReleaseNotes();
+    void openLogsFolder();
+    void showAbout();
 
     // Live (mainwindowlive.cpp)
     void showListeningStatus(const QString &address, quint16 port, int universeCount);
@@ -184,6 +249,17 @@ private:
     QTabWidget *m_monitorTabs = nullptr;
     LedMonitorView *m_view2d = nullptr;
     Led3DView *m_view3d = nullptr;
+
+    // Menus
+    std::vector<MenuEntry> m_menuEntries;
+    std::vector<std::pair<QMenu *, const char *>> m_menuTitles;
+    QMenu *m_recentPatchesMenu = nullptr;
+    QMenu *m_recentRecordingsMenu = nullptr;
+    QList<QAction *> m_playbackActions;  // enabled in Recorded playback
+    QList<QAction *> m_broadcastActions; // enabled in Live broadcast
+    QPointer<QDialog> m_shortcutsDialog;
+    Translator *m_translator = nullptr;
+    UpdateController *m_updates = nullptr;
 
     MoxStyle *m_style = nullptr;
     std::unique_ptr<MoxStyle> m_ownStyle;

@@ -179,6 +179,7 @@ void MainWindow::onRecordStop()
     const qint64 records = writer->recordsWritten();
     const qint64 kb = writer->fileSize() / 1024;
     const QString path = writer->path();
+    addRecentPath(path, SettingsKey::recentRecordings);
     m_broadcastPanel->setRecordMessage(
         [frames, records, kb, path] {
             return tr("Saved %1 frame(s), %2 record(s), %3 KB to %4").arg(frames).arg(records).arg(kb).arg(path);

@@ -124,6 +124,7 @@ void MainWindow::onUploadRequested(const QString &path)
         m_gpsPanel->setMessage([] { return tr("This patch has no groups."); }, 0);
     else
         m_gpsPanel->setMessage([] { return tr("No set loaded. Give every group its own GPS-Sync recording."); }, 0);
+    addRecentPath(path, SettingsKey::recentPatches);
 
     const qint64 drawn = m_layout.drawablePixelCount();
     if (drawn == 0) {

@@ -252,6 +252,7 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
         },
         warnings.isEmpty() ? 0 : 1);
     showStatus([information] { return information() + QStringLiteral("  |  ") + tr("Space plays and pauses."); }, 0);
+    addRecentPath(path, SettingsKey::recentRecordings);
     saveSettings();
 }
 

@@ -1,4 +1,5 @@
 #include "cli/clicommon.h"
+#include "talu_version.h"
 #include "cli/colourcommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
@@ -58,7 +59,7 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
     QCoreApplication::setApplicationName(QStringLiteral("talu-cli"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TALU_VERSION));
 
     const QStringList args = QCoreApplication::arguments().mid(1);
     if (args.isEmpty()) {
@@ -71,7 +72,7 @@ int main(int argc, char *argv[])
         return ExitOk;
     }
     if (name == QLatin1StringView("--version")) {
-        printOut(QStringLiteral("talu-cli 1.0.0"));
+        printOut(QStringLiteral("talu-cli " TALU_VERSION));
         return ExitOk;
     }
     for (const Command &c : kCommands) {

@@ -1,12 +1,31 @@
 #include "i18n/translator.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
 
 Translator::Translator(QObject *parent) : QObject(parent), m_languageId(defaultLanguageId()) {}
 
 QString Translator::defaultLanguageId()
 {
     return QStringLiteral("en");
+}
+
+QStringList Translator::languageIds()
+{
+    QStringList ids{defaultLanguageId()};
+    const QStringList files = QDir(QStringLiteral(":/i18n")).entryList({QStringLiteral("talu_*.qm")}, QDir::Files);
+    for (const QString &file : files)
+        ids << file.mid(5, file.size() - 5 - 3); // "talu_" <id> ".qm"
+    ids.removeDuplicates();
+    ids.sort();
+    return ids;
+}
+
+QString Translator::languageName(const QString &id)
+{
+    const QString name = QLocale(id).nativeLanguageName();
+    return name.isEmpty() ? id : name.left(1).toUpper() + name.mid(1);
 }
 
 void Translator::install(QCoreApplication &app)

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 class QCoreApplication;
@@ -17,6 +18,10 @@ public:
     explicit Translator(QObject *parent = nullptr);
 
     static QString defaultLanguageId();
+    // English and every language with a dictionary among the resources, sorted by id.
+    static QStringList languageIds();
+    // The language's own name for itself ("Deutsch"), for choosing it.
+    static QString languageName(const QString &id);
     QString currentLanguageId() const { return m_languageId; }
 
     void install(QCoreApplication &app);

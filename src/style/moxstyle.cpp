@@ -72,6 +72,15 @@ QStringList MoxStyle::themeIds() const
     return {QStringLiteral("dark"), QStringLiteral("light")};
 }
 
+QString MoxStyle::themeDisplayName(const QString &id)
+{
+    if (id == QLatin1StringView("dark"))
+        return tr("Dark");
+    if (id == QLatin1StringView("light"))
+        return tr("Light");
+    return id;
+}
+
 void MoxStyle::applyTheme(const QString &id)
 {
     const bool light = id == QLatin1StringView("light");

@@ -30,6 +30,8 @@ public:
 
     static QString defaultThemeId();
     QStringList themeIds() const;
+    // The name a user chooses a theme by ("Dark"); the id itself for an unknown one.
+    static QString themeDisplayName(const QString &id);
     QString currentThemeId() const { return m_themeId; }
 
     // Applies a theme by id; an unknown id applies the default theme.

@@ -341,7 +341,7 @@ void TestMainWindow::demoRecordingShowsAndPlays()
     QVERIFY(lit);
 
     // Space plays: frames advance; Space again pauses.
-    auto *playPause = w.findChild<QAction *>(QStringLiteral("playPauseAction"));
+    QAction *playPause = w.menuAction("Play / Pause");
     QVERIFY(playPause);
     QCOMPARE(playPause->shortcut(), QKeySequence(Qt::Key_Space));
     playPause->trigger();
