@@ -46,23 +46,6 @@ QString frameLabel(QWidget *panel)
     return panel->findChild<QLabel *>(QStringLiteral("frameLabel"))->text();
 }
 
-// Closes the next message box once it is up and hands back its title and text.
-void closeNextDialog(QString *title, QString *text)
-{
-    auto *poll = new QTimer;
-    poll->setInterval(10);
-    QObject::connect(poll, &QTimer::timeout, [poll, title, text] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        *title = box->windowTitle();
-        *text = box->text();
-        box->accept();
-        poll->deleteLater();
-    });
-    poll->start();
-}
-
 using Step = std::function<void(MainWindow &)>;
 
 } // namespace
@@ -237,7 +220,12 @@ void TestMainWindowPlayback::failedPatchKeepsThePreviousOne()
     uploadPatch(w);
     const qint64 pixels = w.pixelLayout().drawablePixelCount();
     QString title, text;
-    closeNextDialog(&title, &text);
+    onNextModal([&title, &text](QWidget *modal) {
+        auto *box = qobject_cast<QMessageBox *>(modal);
+        title = box->windowTitle();
+        text = box->text();
+        box->accept();
+    });
     uploadPatch(w, broken);
     QCOMPARE(title, QStringLiteral("Patch Error"));
     QVERIFY2(text.contains(QStringLiteral("\n\nA copy of the file and this message was saved to:\n")

@@ -5,12 +5,16 @@
 #include "panels/patchbar.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 #include <QtTest>
+
+#include <functional>
 
 // Drives the main window the way a user does: by the texts on its controls.
 namespace WindowDriver {
@@ -58,6 +62,21 @@ inline void uploadPatch(MainWindow &w, const QString &path = kDemoPatch)
     edit->clear();
     QTest::keyClicks(edit, path);
     click(bar, QStringLiteral("Upload"));
+}
+
+// Runs act on the next modal dialog once it is up (act closes it).
+inline void onNextModal(std::function<void(QWidget *)> act)
+{
+    auto *poll = new QTimer;
+    poll->setInterval(10);
+    QObject::connect(poll, &QTimer::timeout, [poll, act] {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (!modal)
+            return;
+        poll->deleteLater();
+        act(modal);
+    });
+    poll->start();
 }
 
 inline QString status(MainWindow &w)
