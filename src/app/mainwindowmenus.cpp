@@ -526,6 +526,7 @@ void MainWindow::showShortcuts()
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
     // Built from the menus themselves, so the table can never disagree with them.
     for (const MenuEntry &entry : m_menuEntries) {
         if (entry.action->shortcut().isEmpty())
@@ -540,7 +541,7 @@ void MainWindow::showShortcuts()
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
     m_shortcutsDialog = openPlainDialog(this, QStringLiteral("shortcutsDialog"), tr("Keyboard Shortcuts"), table,
-                                        QSize(420, 520));
+                                        QSize(440, 600));
 }
 
 void MainWindow::showReleaseNotes()

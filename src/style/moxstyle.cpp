@@ -21,17 +21,18 @@ constexpr NamedColour kDark[] = {
     {"window", "#1e2227"},   {"base", "#15181c"},   {"text", "#e3e6ea"},    {"mutedText", "#9aa3ad"},
     {"button", "#2b3036"},   {"accent", "#f08220"}, {"border", "#3a4047"},  {"info", "#9fd4a3"},
     {"warning", "#f2c14e"},  {"error", "#ff6b6b"},  {"highlight", "#3d6ea8"}, {"success", "#6fcf73"},
-    {"hint", "#b8c4d0"},
+    {"hint", "#b8c4d0"},     {"disabledText", "#6b737c"},
 };
 constexpr NamedColour kLight[] = {
     {"window", "#eef0f2"},   {"base", "#ffffff"},   {"text", "#1b1f24"},    {"mutedText", "#5b6570"},
     {"button", "#e1e4e8"},   {"accent", "#c25e00"}, {"border", "#b8bfc7"},  {"info", "#2e7d32"},
     {"warning", "#9a6b00"},  {"error", "#c62828"},  {"highlight", "#3d6ea8"}, {"success", "#2e7d32"},
-    {"hint", "#3b4650"},
+    {"hint", "#3b4650"},     {"disabledText", "#9aa1a8"},
 };
 
 const char *const kStyleSheet = R"(
 QWidget { color: {text}; }
+QWidget:disabled, QMenu::item:disabled { color: {disabledText}; }
 QMainWindow, QDialog { background: {window}; }
 QGroupBox { border: 1px solid {border}; border-radius: 4px; margin-top: 8px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; color: {mutedText}; }
@@ -112,6 +113,12 @@ void MoxStyle::install(QApplication &app) const
     palette.setColor(QPalette::ToolTipBase, colour(QStringLiteral("base")));
     palette.setColor(QPalette::ToolTipText, colour(QStringLiteral("text")));
     palette.setColor(QPalette::PlaceholderText, colour(QStringLiteral("mutedText")));
+    // No etched highlight under disabled text: Fusion draws disabled menu
+    // entries over the Light colour offset by a pixel, which on a dark window
+    // reads as bright, embossed text.
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, colour(QStringLiteral("disabledText")));
+    palette.setColor(QPalette::Disabled, QPalette::Light, colour(QStringLiteral("window")));
     app.setPalette(palette);
     app.setStyleSheet(expandTemplate(QString::fromLatin1(kStyleSheet)));
 }
