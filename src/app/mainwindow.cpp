@@ -72,7 +72,13 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     wireGroupFilter();
     m_updates = new UpdateController(this, this);
     buildMenus();
+    // Files may be dropped anywhere, the monitor included: the views would
+    // otherwise take the drop for their scenes and refuse it.
     setAcceptDrops(true);
+    for (QGraphicsView *view : std::initializer_list<QGraphicsView *>{m_view2d, m_view3d}) {
+        view->setAcceptDrops(false);
+        view->viewport()->setAcceptDrops(false);
+    }
     showStatus([] { return tr("Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin."); }, 0);
     retranslateUi();
 

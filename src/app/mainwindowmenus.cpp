@@ -15,7 +15,6 @@
 #include "recording/playbackclock.h"
 #include "style/moxstyle.h"
 #include "talu_version.h"
-#include "update/updatefeed.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -33,7 +32,6 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QInputDialog>
-#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -216,10 +214,12 @@ void MainWindow::buildMenus()
     QAction *loop = addEntry(playback, QT_TR_NOOP("Loop"), QKeySequence());
     loop->setCheckable(true);
     connect(loop, &QAction::triggered, this, [this](bool on) {
+        // The panels set their box quietly; the clock of a running playback is told here.
         if (m_playbackTabs->currentIndex() == GpsTab)
             m_gpsPanel->setLoop(on);
         else
             m_playbackPanel->setLoop(on);
+        m_clock->setLoop(on);
     });
     playback->addSeparator();
     auto *tabs = new QActionGroup(this);
@@ -618,15 +618,18 @@ void MainWindow::dropEvent(QDropEvent *event)
     if (files.isEmpty())
         return;
     event->acceptProposedAction();
-    // A patch first, so a recording dropped with it is evaluated against it.
-    for (const QString &path : files)
-        if (isPatchFile(path)) {
-            openPatch(path);
-            break;
-        }
-    for (const QString &path : files)
-        if (isRecordingFile(path)) {
-            openRecording(path);
-            break;
-        }
+    // Loaded after the drop has ended: a failing patch opens a dialog, and the
+    // file manager the files came from must not wait for it.
+    QMetaObject::invokeMethod(
+        this,
+        [this, files] {
+            // A patch first, so a recording dropped with it is evaluated against it.
+            const auto patch = std::find_if(files.cbegin(), files.cend(), isPatchFile);
+            if (patch != files.cend())
+                openPatch(*patch);
+            const auto recording = std::find_if(files.cbegin(), files.cend(), isRecordingFile);
+            if (recording != files.cend())
+                openRecording(*recording);
+        },
+        Qt::QueuedConnection);
 }

@@ -112,6 +112,8 @@ void UpdateController::onFinished(const UpdateCheckResult &result)
         connect(ignore, &QPushButton::clicked, this,
                 [feed] { openSettings()->setValue(SettingsKey::updateIgnoredVersion, feed.version); });
     }
-    box->open();
+    // Not modal: a box that comes up a few seconds after start must not hold the window.
+    box->setWindowModality(Qt::NonModal);
+    box->show();
     emit checkFinished(result, true);
 }

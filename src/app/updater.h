@@ -19,7 +19,8 @@ int applyUpdate(const QStringList &arguments);
 // day, never before the window is up, silent when it fails (show networks are
 // usually offline) or finds nothing new, and quiet about a version the user
 // chose to ignore. "Check for Updates..." reports every outcome. Both show a
-// non-modal box; its check box turns the background check on and off.
+// box that does not hold the window; its check box turns the background check
+// on and off.
 // Settings: "update/autoCheck", "update/lastCheck", "update/ignoredVersion".
 // GUI thread only.
 class UpdateController : public QObject

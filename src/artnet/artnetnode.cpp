@@ -3,6 +3,7 @@
 #include "artnet/linuxudpdatagramsocket.h"
 #include "artnet/udpdatagramsocket.h"
 
+#include <QElapsedTimer>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -182,9 +183,27 @@ void ArtNetNode::onReadyRead()
     QHostAddress sender;
     quint16 senderPort = 0;
     const QScopedValueRollback<bool> inReadyRead(m_inReadyRead, true);
-    // Drain everything queued: one notification may stand for thousands of
+    // Drain what is queued: one notification may stand for thousands of
     // datagrams, and each wake-up of the event loop costs more than a read.
+    // But not for longer than kDrainBudgetNs: under a flood the queue never
+    // empties, and the window's repaint and status timers must get their turn.
+    // The rest is read on the next pass of the event loop (the kernel's queue
+    // holds far more than one budget's worth).
+    QElapsedTimer drained;
+    drained.start();
+    m_drainPosted = false;
+    int read = 0;
     while (m_socket && m_socket->hasPendingDatagrams()) {
+        if ((++read % kDrainCheckEvery) == 0 && drained.nsecsElapsed() > kDrainBudgetNs) {
+            m_drainPosted = true;
+            QMetaObject::invokeMethod(
+                this, [this] {
+                    if (m_drainPosted)
+                        onReadyRead();
+                },
+                Qt::QueuedConnection);
+            break;
+        }
         const qint64 size =
             m_socket->readDatagram(m_receiveBuffer.data(), m_receiveBuffer.size(), &sender, &senderPort);
         if (size < 0)

@@ -103,6 +103,10 @@ private:
     // event loop comes back: its notification is still on the stack.
     std::unique_ptr<DatagramSocket> m_retiredSocket;
     bool m_inReadyRead = false;
+    // A drain cut short by its time budget has posted its continuation.
+    bool m_drainPosted = false;
+    static constexpr qint64 kDrainBudgetNs = 15'000'000;
+    static constexpr int kDrainCheckEvery = 64;
     QTimer m_announceTimer;
     PacketJournal *m_journal = nullptr;
     QHostAddress m_bindAddress;

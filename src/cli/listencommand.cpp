@@ -213,6 +213,7 @@ int runListenCommand(const QStringList &arguments)
 
     // The window's own live path; without a colour target it only records.
     LivePipeline pipeline;
+    pipeline.journal().setEnabled(false); // no packet log here: nothing would read it
     ArtNetNode &node = pipeline.node();
     node.setIdentity(identity);
     node.setUniverses(advertised);

@@ -38,7 +38,8 @@ public:
 
     ArtNetNode &node() { return *m_node; }
     const ArtNetNode &node() const { return *m_node; }
-    // The packet log of this node (enabled from the start).
+    // The packet log of this node: enabled from the start, so the window's log
+    // has the history; an owner without a log (talu-cli listen) disables it.
     PacketLog::PacketJournal &journal() { return m_journal; }
 
     // Where received universes are evaluated (neither owned; both must stay
@@ -63,7 +64,7 @@ signals:
 
 private:
     // Hands the node's datagrams to the packet journal as events.
-    class JournalFeed : public PacketJournal
+    class JournalFeed : public ::PacketJournal
     {
     public:
         explicit JournalFeed(LivePipeline &pipeline) : m_pipeline(pipeline) {}

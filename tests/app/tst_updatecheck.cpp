@@ -4,6 +4,7 @@
 #include "../common/netnsguard.h"
 #include "app/appsettings.h"
 #include "app/updater.h"
+#include "talu_version.h"
 
 #include <QCheckBox>
 #include <QMessageBox>
@@ -77,9 +78,11 @@ void TestUpdateCheck::manualCheckReportsEveryOutcome_data()
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<bool>("reachable");
     QTest::addColumn<QString>("text"); // the start of the box's text
-    QTest::newRow("newer") << feed("9.0.0") << true << "Torvane TALU 9.0.0 is available. You have 1.0.0.";
-    QTest::newRow("same") << feed("1.0.0") << true << "Torvane TALU 1.0.0 is the latest version.";
-    QTest::newRow("older") << feed("0.9") << true << "Torvane TALU 1.0.0 is the latest version.";
+    const QString latest = QStringLiteral("Torvane TALU " TALU_VERSION " is the latest version.");
+    QTest::newRow("newer") << feed("9.0.0") << true
+                           << QStringLiteral("Torvane TALU 9.0.0 is available. You have " TALU_VERSION ".");
+    QTest::newRow("same") << feed(TALU_VERSION) << true << latest;
+    QTest::newRow("older") << feed("0.9") << true << latest;
     QTest::newRow("malformed") << QByteArray("{\"version\":") << true
                                << "Could not check for updates: The update information is not readable.";
     QTest::newRow("huge") << QByteArray(8 * 1024 * 1024, ' ') << true
@@ -148,7 +151,7 @@ void TestUpdateCheck::backgroundCheckKeepsQuiet()
 
     // Same version, an ignored one, a failure: checked, nothing shown.
     openSettings()->setValue(SettingsKey::updateIgnoredVersion, QStringLiteral("9.0.0"));
-    for (const QByteArray &body : {feed("1.0.0"), feed("9.0.0"), QByteArray("<html>")}) {
+    for (const QByteArray &body : {feed(TALU_VERSION), feed("9.0.0"), QByteArray("<html>")}) {
         openSettings()->remove(SettingsKey::updateLastCheck);
         server.body = body;
         updates.startBackgroundCheck(0);
@@ -160,6 +163,8 @@ void TestUpdateCheck::backgroundCheckKeepsQuiet()
 
     // Checked less than a day ago, or switched off: no request at all.
     updates.startBackgroundCheck(0);
+    QTest::qWait(200);
+    QCOMPARE(server.requests, 3);
     UpdateController::setAutoCheckEnabled(false);
     openSettings()->remove(SettingsKey::updateLastCheck);
     updates.startBackgroundCheck(0);

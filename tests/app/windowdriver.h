@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QRadioButton>
 #include <QLineEdit>
 #include <QPushButton>
@@ -64,17 +65,22 @@ inline void uploadPatch(MainWindow &w, const QString &path = kDemoPatch)
     click(bar, QStringLiteral("Upload"));
 }
 
-// Runs act on the next modal dialog once it is up (act closes it).
+// Runs act on the next modal dialog once it is up (act closes it); gives up
+// after 10 s, so a dialog that never came cannot be taken for a later one.
 inline void onNextModal(std::function<void(QWidget *)> act)
 {
     auto *poll = new QTimer;
     poll->setInterval(10);
-    QObject::connect(poll, &QTimer::timeout, [poll, act] {
+    auto *deadline = new QElapsedTimer;
+    deadline->start();
+    QObject::connect(poll, &QTimer::timeout, [poll, act, deadline] {
         QWidget *modal = QApplication::activeModalWidget();
-        if (!modal)
+        if (!modal && deadline->elapsed() < 10000)
             return;
         poll->deleteLater();
-        act(modal);
+        delete deadline;
+        if (modal)
+            act(modal);
     });
     poll->start();
 }

@@ -386,7 +386,8 @@ void TestArtNetNode::pollFloodIsAnsweredEveryTime()
     QVERIFY(start());
     QSignalSpy answered(m_node.get(), &ArtNetNode::pollAnswered);
     m_socket->deliver(QVector<QByteArray>(5000, buildPoll()), kController);
-    QCOMPARE(m_node->stats().artPolls, quint64(5000));
+    // Read over as many passes of the event loop as the drain's time budget needs.
+    QTRY_COMPARE(m_node->stats().artPolls, quint64(5000));
     QCOMPARE(answered.count(), 5000);
     QCOMPARE(m_socket->sent.size(), 5000 * 3 * 2);
     QCOMPARE(m_node->stats().ignored, quint64(0));
