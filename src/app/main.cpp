@@ -34,6 +34,16 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[PATCH]"));
     parser.addPositionalArgument(QStringLiteral("recording"), QStringLiteral("Recording to load (.tpx)."),
                                  QStringLiteral("[RECORDING]"));
+    const QCommandLineOption themeOption(QStringLiteral("theme"),
+                                         QStringLiteral("Use this interface theme for this run only (%1).")
+                                             .arg(MoxStyle().themeIds().join(QStringLiteral(", "))),
+                                         QStringLiteral("ID"));
+    const QCommandLineOption languageOption(QStringLiteral("language"),
+                                            QStringLiteral("Use this language for this run only (%1).")
+                                                .arg(Translator::languageIds().join(QStringLiteral(", "))),
+                                            QStringLiteral("ID"));
+    parser.addOption(themeOption);
+    parser.addOption(languageOption);
     parser.process(argumentsForNormalStart(QCoreApplication::arguments()));
     const QStringList files = parser.positionalArguments();
 
@@ -46,11 +56,16 @@ int main(int argc, char *argv[])
     // widget is ever painted in the wrong look or language.
     auto settings = openSettings();
     MoxStyle style;
-    style.applyTheme(settings->value(SettingsKey::theme, MoxStyle::defaultThemeId()).toString());
+    // --theme and --language hold for this run and are not stored.
+    style.applyTheme(parser.isSet(themeOption)
+                         ? parser.value(themeOption)
+                         : settings->value(SettingsKey::theme, MoxStyle::defaultThemeId()).toString());
     style.install(*app);
     Translator translator;
     translator.install(*app);
-    translator.applyLanguage(settings->value(SettingsKey::language, Translator::defaultLanguageId()).toString());
+    translator.applyLanguage(parser.isSet(languageOption)
+                                 ? parser.value(languageOption)
+                                 : settings->value(SettingsKey::language, Translator::defaultLanguageId()).toString());
 
     auto window = std::make_unique<MainWindow>(&style);
     window->setTranslator(&translator);

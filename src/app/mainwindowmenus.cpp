@@ -32,6 +32,8 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -481,16 +483,41 @@ void MainWindow::applyTheme(const QString &id)
 
 void MainWindow::chooseTheme()
 {
-    const QStringList ids = m_style->themeIds();
-    QStringList names;
-    for (const QString &id : ids)
-        names << MoxStyle::themeDisplayName(id);
-    bool ok = false;
-    const QString chosen = QInputDialog::getItem(this, tr("Interface Theme"), tr("Theme:"), names,
-                                                 std::max<int>(0, int(ids.indexOf(m_style->currentThemeId()))), false,
-                                                 &ok);
-    if (ok && names.contains(chosen))
-        applyTheme(ids.at(names.indexOf(chosen)));
+    // Each theme is shown on the whole program as it is selected; Cancel goes back.
+    const QString before = m_style->currentThemeId();
+    QDialog dialog(this);
+    dialog.setObjectName(QStringLiteral("themeDialog"));
+    dialog.setWindowTitle(tr("Interface Theme"));
+    auto *hint = new QLabel(tr("The window shows each theme as you select it."), &dialog);
+    auto *list = new QListWidget(&dialog);
+    list->setObjectName(QStringLiteral("themeList"));
+    list->setAccessibleName(tr("Interface Theme"));
+    for (const QString &id : m_style->themeIds()) {
+        auto *item = new QListWidgetItem(MoxStyle::themeDisplayName(id), list);
+        item->setData(Qt::UserRole, id);
+        if (id == before)
+            list->setCurrentItem(item);
+    }
+    connect(list, &QListWidget::currentItemChanged, &dialog, [this](QListWidgetItem *item) {
+        if (!item)
+            return;
+        m_style->applyTheme(item->data(Qt::UserRole).toString());
+        m_style->install(*qApp);
+    });
+    connect(list, &QListWidget::itemActivated, &dialog, &QDialog::accept);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(hint);
+    layout->addWidget(list);
+    layout->addWidget(buttons);
+    if (dialog.exec() == QDialog::Accepted && list->currentItem()) {
+        applyTheme(list->currentItem()->data(Qt::UserRole).toString());
+    } else if (m_style->currentThemeId() != before) {
+        m_style->applyTheme(before);
+        m_style->install(*qApp);
+    }
 }
 
 void MainWindow::chooseLanguage()

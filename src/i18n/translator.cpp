@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QLocale>
 
 Translator::Translator(QObject *parent) : QObject(parent), m_languageId(defaultLanguageId()) {}
@@ -37,13 +38,21 @@ QString Translator::applyLanguage(const QString &id)
 {
     if (m_app && m_dictionaryInstalled) {
         m_app->removeTranslator(&m_dictionary);
+        m_app->removeTranslator(&m_qtDictionary);
         m_dictionaryInstalled = false;
     }
     QString applied = defaultLanguageId();
     if (id != defaultLanguageId() && m_dictionary.load(QStringLiteral(":/i18n/talu_%1.qm").arg(id))) {
         applied = id;
-        if (m_app)
+        // Qt's own texts (standard buttons, file dialogs) from the Qt installation,
+        // when it has them; without, those few stay English.
+        const bool haveQt = m_qtDictionary.load(QStringLiteral("qtbase_%1").arg(id),
+                                                QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        if (m_app) {
+            if (haveQt)
+                m_app->installTranslator(&m_qtDictionary);
             m_dictionaryInstalled = m_app->installTranslator(&m_dictionary);
+        }
     }
     const bool changed = applied != m_languageId;
     m_languageId = applied;

@@ -9,7 +9,8 @@ class QCoreApplication;
 
 // The dictionary translator: holds the current language and the Qt
 // translator installed on the application. English ("en") is the source
-// language and needs no dictionary; other languages load ":/i18n/talu_<id>.qm".
+// language and needs no dictionary; other languages load ":/i18n/talu_<id>.qm"
+// and Qt's own "qtbase_<id>.qm" for the standard dialogs.
 // GUI thread only.
 class Translator : public QObject
 {
@@ -34,6 +35,7 @@ signals:
 
 private:
     QTranslator m_dictionary;
+    QTranslator m_qtDictionary; // Qt's own texts in the same language
     QCoreApplication *m_app = nullptr;
     bool m_dictionaryInstalled = false;
     QString m_languageId;

@@ -7,6 +7,10 @@
 #include <QStyleFactory>
 #include <QWidget>
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
 namespace {
 
 struct NamedColour
@@ -15,20 +19,62 @@ struct NamedColour
     const char *value;
 };
 
+// Every theme names every role below; the contrast test holds each text role
+// against the backgrounds it is drawn on (at least 4.5 : 1).
+//
 // The monitor is dark so that lit pixels read as they do on site; the dark
 // theme keeps the rest of the window out of the way of that.
 constexpr NamedColour kDark[] = {
     {"window", "#1e2227"},   {"base", "#15181c"},   {"text", "#e3e6ea"},    {"mutedText", "#9aa3ad"},
     {"button", "#2b3036"},   {"accent", "#f08220"}, {"border", "#3a4047"},  {"info", "#9fd4a3"},
     {"warning", "#f2c14e"},  {"error", "#ff6b6b"},  {"highlight", "#3d6ea8"}, {"success", "#6fcf73"},
-    {"hint", "#b8c4d0"},     {"disabledText", "#6b737c"},
+    {"hint", "#b8c4d0"},     {"disabledText", "#6b737c"}, {"highlightedText", "#ffffff"},
 };
+// Daylight and offices.
 constexpr NamedColour kLight[] = {
-    {"window", "#eef0f2"},   {"base", "#ffffff"},   {"text", "#1b1f24"},    {"mutedText", "#5b6570"},
-    {"button", "#e1e4e8"},   {"accent", "#c25e00"}, {"border", "#b8bfc7"},  {"info", "#2e7d32"},
-    {"warning", "#9a6b00"},  {"error", "#c62828"},  {"highlight", "#3d6ea8"}, {"success", "#2e7d32"},
-    {"hint", "#3b4650"},     {"disabledText", "#9aa1a8"},
+    {"window", "#eef0f2"},   {"base", "#ffffff"},   {"text", "#1b1f24"},    {"mutedText", "#535c66"},
+    {"button", "#e1e4e8"},   {"accent", "#a84f00"}, {"border", "#b8bfc7"},  {"info", "#256b29"},
+    {"warning", "#855c00"},  {"error", "#b71c1c"},  {"highlight", "#3d6ea8"}, {"success", "#256b29"},
+    {"hint", "#3b4650"},     {"disabledText", "#9aa1a8"}, {"highlightedText", "#ffffff"},
 };
+// For low vision and glaring screens: white and pure colours on black.
+constexpr NamedColour kHighContrast[] = {
+    {"window", "#000000"},   {"base", "#000000"},   {"text", "#ffffff"},    {"mutedText", "#e0e0e0"},
+    {"button", "#1a1a1a"},   {"accent", "#ffd400"}, {"border", "#ffffff"},  {"info", "#7dff7d"},
+    {"warning", "#ffd400"},  {"error", "#ff7070"},  {"highlight", "#1a5fff"}, {"success", "#7dff7d"},
+    {"hint", "#ffffff"},     {"disabledText", "#a0a0a0"}, {"highlightedText", "#ffffff"},
+};
+// For dark venues: nothing but dim reds and ambers, so the screen neither
+// lights the room nor spoils the crew's night vision during a show.
+constexpr NamedColour kDimRed[] = {
+    {"window", "#0d0505"},   {"base", "#080303"},   {"text", "#e06a55"},    {"mutedText", "#c85a46"},
+    {"button", "#2a0d0a"},   {"accent", "#ff7043"}, {"border", "#4a1a14"},  {"info", "#d08050"},
+    {"warning", "#e09040"},  {"error", "#ff5050"},  {"highlight", "#5a1a12"}, {"success", "#c09048"},
+    {"hint", "#d87060"},     {"disabledText", "#7a3328"}, {"highlightedText", "#ffb0a0"},
+};
+
+struct Theme
+{
+    const char *id;
+    const char *name; // untranslated display name
+    const NamedColour *colours;
+    size_t count;
+};
+
+constexpr Theme kThemes[] = {
+    {"dark", QT_TRANSLATE_NOOP("MoxStyle", "Dark"), kDark, std::size(kDark)},
+    {"light", QT_TRANSLATE_NOOP("MoxStyle", "Light"), kLight, std::size(kLight)},
+    {"contrast", QT_TRANSLATE_NOOP("MoxStyle", "High contrast"), kHighContrast, std::size(kHighContrast)},
+    {"dimred", QT_TRANSLATE_NOOP("MoxStyle", "Dim red"), kDimRed, std::size(kDimRed)},
+};
+
+const Theme *findTheme(const QString &id)
+{
+    for (const Theme &t : kThemes)
+        if (id == QLatin1String(t.id))
+            return &t;
+    return nullptr;
+}
 
 const char *const kStyleSheet = R"(
 QWidget { color: {text}; }
@@ -70,31 +116,27 @@ QString MoxStyle::defaultThemeId()
 
 QStringList MoxStyle::themeIds() const
 {
-    return {QStringLiteral("dark"), QStringLiteral("light")};
+    QStringList ids;
+    for (const Theme &t : kThemes)
+        ids << QString::fromLatin1(t.id);
+    return ids;
 }
 
 QString MoxStyle::themeDisplayName(const QString &id)
 {
-    if (id == QLatin1StringView("dark"))
-        return tr("Dark");
-    if (id == QLatin1StringView("light"))
-        return tr("Light");
-    return id;
+    const Theme *theme = findTheme(id);
+    return theme ? tr(theme->name) : id;
 }
 
 void MoxStyle::applyTheme(const QString &id)
 {
-    const bool light = id == QLatin1StringView("light");
-    m_themeId = light ? QStringLiteral("light") : defaultThemeId();
+    const Theme *theme = findTheme(id);
+    if (!theme)
+        theme = findTheme(defaultThemeId());
+    m_themeId = QString::fromLatin1(theme->id);
     m_palette.clear();
-    const auto apply = [this](const auto &table) {
-        for (const NamedColour &c : table)
-            m_palette.insert(QString::fromLatin1(c.role), QColor(QString::fromLatin1(c.value)));
-    };
-    if (light)
-        apply(kLight);
-    else
-        apply(kDark);
+    for (size_t i = 0; i < theme->count; ++i)
+        m_palette.insert(QString::fromLatin1(theme->colours[i].role), QColor(QString::fromLatin1(theme->colours[i].value)));
     emit themeChanged(m_themeId);
 }
 
@@ -110,6 +152,15 @@ void MoxStyle::install(QApplication &app) const
     palette.setColor(QPalette::Button, colour(QStringLiteral("button")));
     palette.setColor(QPalette::ButtonText, colour(QStringLiteral("text")));
     palette.setColor(QPalette::Highlight, colour(QStringLiteral("highlight")));
+    palette.setColor(QPalette::HighlightedText, colour(QStringLiteral("highlightedText")));
+    palette.setColor(QPalette::Link, colour(QStringLiteral("accent")));
+    // The bevel colours Fusion draws frames, grids and sliders with, from the button colour.
+    const QColor button = colour(QStringLiteral("button"));
+    palette.setColor(QPalette::Light, button.lighter(150));
+    palette.setColor(QPalette::Midlight, button.lighter(125));
+    palette.setColor(QPalette::Mid, colour(QStringLiteral("border")));
+    palette.setColor(QPalette::Dark, button.darker(150));
+    palette.setColor(QPalette::Shadow, QColor(Qt::black));
     palette.setColor(QPalette::ToolTipBase, colour(QStringLiteral("base")));
     palette.setColor(QPalette::ToolTipText, colour(QStringLiteral("text")));
     palette.setColor(QPalette::PlaceholderText, colour(QStringLiteral("mutedText")));
@@ -214,4 +265,25 @@ QString MoxStyle::expandTemplate(const QString &styleSheetTemplate) const
     }
     out += styleSheetTemplate.mid(last);
     return out;
+}
+
+double MoxStyle::contrastRatio(const QColor &a, const QColor &b)
+{
+    // WCAG 2 relative luminance of sRGB colours.
+    const auto luminance = [](const QColor &c) {
+        const auto channel = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+        return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) + 0.0722 * channel(c.blueF());
+    };
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QColor MoxStyle::readableOn(const QColor &background, const QColor &preferred)
+{
+    if (contrastRatio(preferred, background) >= kMinimumContrast)
+        return preferred;
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return contrastRatio(black, background) >= contrastRatio(white, background) ? black : white;
 }

@@ -12,8 +12,9 @@ class QWidget;
 // The theme engine: named palettes, a style-sheet template whose placeholders
 // name a palette role ("{window}", optionally with an alpha percentage
 // "{accent@40}"), and the message-level colours every panel and the status
-// line use. This first version knows the two built-in palettes; user themes
-// come later. GUI thread only.
+// line use. Four built-in themes: dark (the default), light, high contrast and
+// dim red. Each is a complete palette over the Fusion style plus the style
+// sheet expanded from its colours. GUI thread only.
 class MoxStyle : public QObject
 {
     Q_OBJECT
@@ -44,6 +45,12 @@ public:
     QColor roleColour(LabelRole role) const;
     // The "labelRole" property value the style sheet selects on ("warning", ...).
     static QString labelRoleName(LabelRole role);
+    // WCAG body text needs this much contrast against its background.
+    static constexpr double kMinimumContrast = 4.5;
+    // The WCAG 2 contrast ratio of two opaque colours (1 to 21).
+    static double contrastRatio(const QColor &a, const QColor &b);
+    // preferred when it reads on background, otherwise black or white, whichever reads better.
+    static QColor readableOn(const QColor &background, const QColor &preferred);
     // Sets a label's role and re-polishes it so the style sheet's colour shows.
     static void setLabelRole(QWidget *label, LabelRole role);
     // "{role}" and "{role@percent}" replaced by the palette's colours.

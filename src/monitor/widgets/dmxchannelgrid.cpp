@@ -1,5 +1,7 @@
 #include "monitor/widgets/dmxchannelgrid.h"
 
+#include "style/moxstyle.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -103,7 +105,13 @@ void DmxChannelGrid::paintEvent(QPaintEvent *)
         painter.fillRect(r, cellColour(c));
         painter.setPen(grid);
         painter.drawRect(r);
-        painter.setPen(c == m_hovered ? palette().color(QPalette::Highlight) : text);
+        // The value must read on its tinted cell in every theme.
+        const QColor fill = cellColour(c);
+        const qreal a = fill.alphaF();
+        const QColor shown = QColor::fromRgbF(float(fill.redF() * a + base.redF() * (1 - a)),
+                                              float(fill.greenF() * a + base.greenF() * (1 - a)),
+                                              float(fill.blueF() * a + base.blueF() * (1 - a)));
+        painter.setPen(c == m_hovered ? palette().color(QPalette::Highlight) : MoxStyle::readableOn(shown, text));
         if (c < m_data.size())
             painter.drawText(r, Qt::AlignCenter, formatDmxValue(quint8(m_data.at(c)), m_format));
     }
