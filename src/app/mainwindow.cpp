@@ -403,6 +403,12 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi();
         retranslateStatus();
+        // The shortcut table is built from the menus' texts: built again in the new language.
+        if (m_shortcutsDialog) {
+            m_shortcutsDialog->close();
+            m_shortcutsDialog.clear();
+            showShortcuts();
+        }
     }
     QMainWindow::changeEvent(event);
 }

@@ -5,2143 +5,2166 @@
     <name>ArtNetNode</name>
     <message>
         <source>No socket could be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es konnte kein Socket erstellt werden.</translation>
     </message>
     <message>
         <source>Only IPv4 addresses can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es können nur IPv4-Adressen verwendet werden.</translation>
     </message>
 </context>
 <context>
     <name>BroadcastPanel</name>
     <message>
         <source>Torvane Tester</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane Tester</translation>
     </message>
     <message>
         <source>TOVA</source>
-        <translation type="unfinished"></translation>
+        <translation>TOVA</translation>
     </message>
     <message>
         <source>BRENO</source>
-        <translation type="unfinished"></translation>
+        <translation>BRENO</translation>
     </message>
     <message>
         <source>KEL6S</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL6S</translation>
     </message>
     <message>
         <source>MIRRA</source>
-        <translation type="unfinished"></translation>
+        <translation>MIRRA</translation>
     </message>
     <message>
         <source>Generic node</source>
-        <translation type="unfinished"></translation>
+        <translation>Generischer Node</translation>
     </message>
     <message>
         <source>Not listening.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Empfang.</translation>
     </message>
     <message>
         <source>Not recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Aufnahme.</translation>
     </message>
     <message>
         <source>Listen on</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangen auf</translation>
     </message>
     <message>
         <source>The local address this node listens on.
 
 Running alongside Torvane MOX on the same machine? Pick a specific address, not Any: MOX binds to Any, and Windows delivers a unicast packet to the more specific socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die lokale Adresse, auf der dieser Node empfängt.
+
+Läuft Torvane MOX auf demselben Rechner? Wählen Sie eine bestimmte Adresse, nicht „Alle“: MOX bindet an „Alle“, und Windows stellt ein Unicast-Paket dem spezifischeren Socket zu.</translation>
     </message>
     <message>
         <source>Any (0.0.0.0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle (0.0.0.0)</translation>
     </message>
     <message>
         <source>%1 (loopback)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Loopback)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>List the network interfaces again</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkschnittstellen neu einlesen</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Art-Net uses 6454. Change only if you know why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net verwendet 6454. Nur ändern, wenn Sie wissen, warum.</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Preset identities. Pick one, then edit the fields below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vordefinierte Identitäten. Eine auswählen und dann die Felder darunter anpassen.</translation>
     </message>
     <message>
         <source>Short name</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzname</translation>
     </message>
     <message>
         <source>Long name</source>
-        <translation type="unfinished"></translation>
+        <translation>Langname</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Net</translation>
     </message>
     <message>
         <source>Sub</source>
-        <translation type="unfinished"></translation>
+        <translation>Sub</translation>
     </message>
     <message>
         <source>Stop listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfang stoppen</translation>
     </message>
     <message>
         <source>Start listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfang starten</translation>
     </message>
     <message>
         <source>Record incoming stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehenden Stream aufnehmen</translation>
     </message>
     <message>
         <source>Write every incoming Art-Net DMX packet to a .tpx file,
 byte compatible with Torvane MOX recordings.
 
 An existing file is appended to, not overwritten - that is how several animations end up in one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt jedes eingehende Art-Net-DMX-Paket in eine .tpx-Datei,
+bytegenau kompatibel mit Aufnahmen von Torvane MOX.
+
+An eine vorhandene Datei wird angehängt, sie wird nicht überschrieben - so landen mehrere Animationen in einer Datei.</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose where the recording is written</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherort der Aufnahme wählen</translation>
     </message>
     <message>
         <source>File name (.tpx is added)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname (.tpx wird angehängt)</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate</translation>
     </message>
     <message>
         <source> fps</source>
-        <translation type="unfinished"></translation>
+        <translation> fps</translation>
     </message>
     <message>
         <source>The frame rate of the source that is sending to us.
 It only scales the 2-byte timestamp written into each record - the DMX data itself is stored exactly as received.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildrate der Quelle, die an uns sendet.
+Sie skaliert nur den 2-Byte-Zeitstempel, der in jeden Datensatz geschrieben wird - die DMX-Daten selbst werden genau so gespeichert, wie sie empfangen wurden.</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme stoppen</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen</translation>
     </message>
     <message>
         <source>No patch loaded - recording works, but the monitor stays dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen - die Aufnahme funktioniert, aber der Monitor bleibt dunkel.</translation>
     </message>
     <message>
         <source>%1 (not present)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht vorhanden)</translation>
     </message>
     <message>
         <source>Select Recording Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmeordner wählen</translation>
     </message>
     <message>
         <source>No ArtPoll seen yet - no controller is looking for nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein ArtPoll empfangen - kein Controller sucht nach Nodes.</translation>
     </message>
     <message>
         <source>Answering ArtPoll (%1 replies sent).</source>
-        <translation type="unfinished"></translation>
+        <translation>ArtPoll wird beantwortet (%1 Antworten gesendet).</translation>
     </message>
     <message>
         <source>Last ArtPoll %1 s ago - the controller may have stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter ArtPoll vor %1 s - der Controller wurde möglicherweise gestoppt.</translation>
     </message>
     <message>
         <source>%1 pkt/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pkt/s</translation>
     </message>
     <message>
         <source>%1 packets</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pakete</translation>
     </message>
     <message>
         <source>no DMX yet</source>
-        <translation type="unfinished"></translation>
+        <translation>noch kein DMX</translation>
     </message>
     <message>
         <source>last %1 ms ago</source>
-        <translation type="unfinished"></translation>
+        <translation>zuletzt vor %1 ms</translation>
     </message>
     <message>
         <source>%1 seq errors</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sequenzfehler</translation>
     </message>
     <message>
         <source>%1 ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ignoriert</translation>
     </message>
 </context>
 <context>
     <name>DmxChannelGrid</name>
     <message>
         <source>no data</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Daten</translation>
     </message>
 </context>
 <context>
     <name>DmxInspector</name>
     <message>
         <source>Decimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimal</translation>
     </message>
     <message>
         <source>Hex</source>
-        <translation type="unfinished"></translation>
+        <translation>Hex</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>The universe shown, by Port-Address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das angezeigte Universum, nach Port-Address.</translation>
     </message>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Universum</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message>
         <source>-</source>
-        <translation type="unfinished"></translation>
+        <translation>-</translation>
     </message>
     <message>
         <source>Channel %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanal %1: %2</translation>
     </message>
     <message>
         <source> · not patched</source>
-        <translation type="unfinished"></translation>
+        <translation> · nicht gepatcht</translation>
     </message>
     <message>
         <source>kinetic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kinetik</translation>
     </message>
     <message>
         <source>… (%1 in all)</source>
-        <translation type="unfinished"></translation>
+        <translation>… (insgesamt %1)</translation>
     </message>
     <message>
         <source> · %1 of pixel(s) %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 von Pixel %2</translation>
     </message>
 </context>
 <context>
     <name>GpsGroupRow</name>
     <message>
         <source>expects %1 universe(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>erwartet %1 Universum/Universen</translation>
     </message>
     <message>
         <source>no drawable pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>keine darstellbaren Pixel</translation>
     </message>
     <message>
         <source>Recording for &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme für &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for the recording of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach der Aufnahme für &quot;%1&quot; suchen</translation>
     </message>
     <message>
         <source>not verified</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht geprüft</translation>
     </message>
     <message>
         <source>%1 - %2 frames - %3 universe(s)/frame - %4 B/frame</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2 Bilder - %3 Universum/Universen pro Bild - %4 B/Bild</translation>
     </message>
     <message>
         <source> (patch expects %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (Patch erwartet %1)</translation>
     </message>
     <message>
         <source>file differs from the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei weicht vom Patch ab</translation>
     </message>
     <message>
         <source>file usable</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei verwendbar</translation>
     </message>
     <message>
         <source>file unusable</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei unbrauchbar</translation>
     </message>
     <message>
         <source>Recording for group</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme für Gruppe</translation>
     </message>
     <message>
         <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane-Aufnahme (*.tpx);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>GpsPlaybackPanel</name>
     <message>
         <source>One recording per group, all driven from one clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme pro Gruppe, alle von einem gemeinsamen Takt gesteuert.</translation>
     </message>
     <message>
         <source>MOX writes a GPS-Sync recording as one file per group, named &lt;name&gt;_&lt;Group&gt;.tpx.
 In the field each device plays its own group&apos;s file while the GPS pulse keeps them all on the same frame index.
 This tab does the same: one clock drives frame n of every file at the same instant.</source>
-        <translation type="unfinished"></translation>
+        <translation>MOX schreibt eine GPS-Sync-Aufnahme als eine Datei pro Gruppe mit dem Namen &lt;name&gt;_&lt;Group&gt;.tpx.
+Vor Ort spielt jedes Gerät die Datei seiner eigenen Gruppe, während der GPS-Puls alle auf demselben Bildindex hält.
+Dieser Tab macht dasselbe: Ein Takt steuert Bild n jeder Datei im selben Moment.</translation>
     </message>
     <message>
         <source>Load a patch first - the group list comes from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Patch laden - die Gruppenliste stammt daraus.</translation>
     </message>
     <message>
         <source>Auto-fill from folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Ordner füllen...</translation>
     </message>
     <message>
         <source>Pick the folder the recording was saved into.
 
 MOX names GPS-Sync files &lt;name&gt;_&lt;Group&gt;.tpx, so every group can be matched by name. When a folder holds several sessions, the one that covers the most groups is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den Ordner, in dem die Aufnahme gespeichert wurde.
+
+MOX benennt GPS-Sync-Dateien &lt;name&gt;_&lt;Group&gt;.tpx, daher lässt sich jede Gruppe über den Namen zuordnen. Enthält ein Ordner mehrere Sessions, wird diejenige gewählt, die die meisten Gruppen abdeckt.</translation>
     </message>
     <message>
         <source>Load set</source>
-        <translation type="unfinished"></translation>
+        <translation>Set laden</translation>
     </message>
     <message>
         <source>Open every file, verify structure and sync, then arm playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien öffnen, Struktur und Sync prüfen, dann die Wiedergabe scharf schalten.</translation>
     </message>
     <message>
         <source>Structure &amp; sync report</source>
-        <translation type="unfinished"></translation>
+        <translation>Struktur- &amp; Sync-Bericht</translation>
     </message>
     <message>
         <source>Stop and return every file to its first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen und jede Datei auf ihr erstes Bild zurücksetzen</translation>
     </message>
     <message>
         <source>All files are presented at exactly this rate.
 The timestamp stored in the files is used to verify sync, not to pace playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien werden mit genau dieser Rate ausgegeben.
+Der in den Dateien gespeicherte Zeitstempel dient zur Prüfung der Synchronität, nicht zur Taktung der Wiedergabe.</translation>
     </message>
     <message>
         <source>Loop the whole set (1 -&gt; end -&gt; 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Set in Schleife (1 -&gt; Ende -&gt; 1)</translation>
     </message>
     <message>
         <source>Play the set end to end, over and over.
 Every file wraps on the same frame, so a set that drifts shows it within a few passes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Set von Anfang bis Ende immer wieder abspielen.
+Jede Datei springt beim selben Bild zurück, daher zeigt sich ein driftendes Set schon nach wenigen Durchläufen.</translation>
     </message>
     <message>
         <source>Set loaded: %1 recording(s), %2 frames each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Set geladen: %1 Aufnahme(n), je %2 Bilder.</translation>
     </message>
     <message>
         <source>No set loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Set geladen.</translation>
     </message>
     <message>
         <source>Frame %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild %1 / %2</translation>
     </message>
     <message>
         <source>%1 file(s) driven together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datei(en) gemeinsam gesteuert</translation>
     </message>
     <message>
         <source>timestamps in step</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitstempel synchron</translation>
     </message>
     <message>
         <source>timestamps %1 s apart</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitstempel %1 s auseinander</translation>
     </message>
     <message>
         <source>Folder holding the GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit den GPS-Sync-Aufnahmen</translation>
     </message>
 </context>
 <context>
     <name>GroupFilterPanel</name>
     <message>
         <source>Groups &amp; Universes</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen &amp; Universen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Port addr.</source>
-        <translation type="unfinished"></translation>
+        <translation>Port-Addr.</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zeigen</translation>
     </message>
     <message>
         <source>Hide all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle ausblenden</translation>
     </message>
     <message>
         <source>Z Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Z-Ebene</translation>
     </message>
     <message>
         <source>Z </source>
-        <translation type="unfinished"></translation>
+        <translation>Z </translation>
     </message>
     <message>
         <source>Only pixels on this Z layer are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Pixel auf dieser Z-Ebene werden gezeichnet.</translation>
     </message>
     <message>
         <source>All Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Z</translation>
     </message>
     <message>
         <source>Draw every Z layer at once. Layers overlap in 2D, so this is a quick look rather than an inspection view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Z-Ebenen gleichzeitig zeichnen. Die Ebenen überlappen sich in 2D, daher ist dies eher ein schneller Überblick als eine Ansicht zur genauen Prüfung.</translation>
     </message>
     <message>
         <source>Universe %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Universum %1</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1</translation>
     </message>
     <message>
         <source>Net %1 / SubNet %2 / Universe %3
 Target IP %4
 Select to highlight this universe on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Net %1 / SubNet %2 / Universe %3
+Ziel-IP %4
+Auswählen, um dieses Universum auf dem Monitor hervorzuheben.</translation>
     </message>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>Single layer (Z %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelne Ebene (Z %1).</translation>
     </message>
     <message>
         <source>Layers %1 - %2. Only the selected layer is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen %1 - %2. Nur die gewählte Ebene wird gezeichnet.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit. Zum Starten einen Patch laden (.tpatch, MADRIX .mpz oder ELM .elm).</translation>
     </message>
     <message>
         <source>Save Monitor Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor-Snapshot speichern</translation>
     </message>
     <message>
         <source>PNG Image (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bild (*.png)</translation>
     </message>
     <message>
         <source>Snapshot Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshot fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not write %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>Snapshot saved to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshot gespeichert unter %1</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Recorded playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme-Wiedergabe</translation>
     </message>
     <message>
         <source>Play a .tpx recording. A patch is optional: without one the monitor stays dark and the DMX tab shows the data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine .tpx-Aufnahme abspielen. Ein Patch ist optional: Ohne Patch bleibt der Monitor dunkel, und der DMX-Tab zeigt die Daten.</translation>
     </message>
     <message>
         <source>Live broadcast</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Empfang</translation>
     </message>
     <message>
         <source>Act as an Art-Net node and paint the monitor from live DMX.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Art-Net-Node arbeiten und den Monitor mit Live-DMX darstellen.</translation>
     </message>
     <message>
         <source>Standard Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Art-Net</translation>
     </message>
     <message>
         <source>One .tpx file recorded for the whole patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine .tpx-Datei, aufgenommen für den gesamten Patch.</translation>
     </message>
     <message>
         <source>GPS Mirra</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS Mirra</translation>
     </message>
     <message>
         <source>One .tpx file per group, recorded with GPS Sync Compatible Record.
 All of them are driven from a single clock, frame n at the same instant.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine .tpx-Datei pro Gruppe, aufgenommen mit „GPS Sync Compatible Record“.
+Alle werden von einem gemeinsamen Takt gesteuert, Bild n im selben Moment.</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppen</translation>
     </message>
     <message>
         <source>Patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch</translation>
     </message>
     <message>
         <source>DMX</source>
-        <translation type="unfinished"></translation>
+        <translation>DMX</translation>
     </message>
     <message>
         <source>Fit to view</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshot</translation>
     </message>
     <message>
         <source>Save the current monitor image as a PNG file</source>
-        <translation type="unfinished"></translation>
+        <translation>Das aktuelle Monitorbild als PNG-Datei speichern</translation>
     </message>
     <message>
         <source>White channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißkanäle</translation>
     </message>
     <message>
         <source>Add W / CW / WW channel values to the pixel colour.
 
 Off by default: MOX derives the white channels FROM rgb, so there is no single correct way back. This is a visibility aid - without it, white-only fixtures stay black even while they are receiving data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kanalwerte von W / CW / WW zur Pixelfarbe addieren.
+
+Standardmäßig aus: MOX leitet die Weißkanäle AUS RGB ab, daher gibt es keinen eindeutig richtigen Rückweg. Dies ist eine Sichtbarkeitshilfe - ohne sie bleiben reine Weiß-Fixtures schwarz, selbst wenn sie Daten empfangen.</translation>
     </message>
     <message>
         <source>Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Achsen</translation>
     </message>
     <message>
         <source>Show the red / green / blue X-Y-Z arrows at the origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die roten / grünen / blauen X-Y-Z-Pfeile im Ursprung anzeigen.</translation>
     </message>
     <message>
         <source>Fast draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell zeichnen</translation>
     </message>
     <message>
         <source>Draw LEDs as squares without antialiasing.
 
 Roughly 5x faster on large patches - use it when the 3D view cannot keep up with playback. Pixels look square instead of round.</source>
-        <translation type="unfinished"></translation>
+        <translation>LEDs als Quadrate ohne Antialiasing zeichnen.
+
+Bei großen Patches etwa 5x schneller - verwenden, wenn die 3D-Ansicht mit der Wiedergabe nicht mithält. Pixel erscheinen eckig statt rund.</translation>
     </message>
     <message>
         <source>Auto orbit</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Orbit</translation>
     </message>
     <message>
         <source>Swing the model through +-45 degrees on two axes.
 Touching the view with the mouse stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modell auf zwei Achsen um +-45 Grad schwenken.
+Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Front</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Back to the default angle and distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zu Standardwinkel und -abstand</translation>
     </message>
     <message>
         <source>2D</source>
-        <translation type="unfinished"></translation>
+        <translation>2D</translation>
     </message>
     <message>
         <source>3D</source>
-        <translation type="unfinished"></translation>
+        <translation>3D</translation>
     </message>
     <message>
         <source>Folder holding the GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit den GPS-Sync-Aufnahmen</translation>
     </message>
     <message>
         <source>Load a patch first - the group list comes from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Patch laden - die Gruppenliste stammt daraus.</translation>
     </message>
     <message>
         <source>No file in &quot;%1&quot; matches a group name. GPS-Sync recordings are named &lt;name&gt;_&lt;Group&gt;.tpx.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei in &quot;%1&quot; passt zu einem Gruppennamen. GPS-Sync-Aufnahmen heißen &lt;name&gt;_&lt;Group&gt;.tpx.</translation>
     </message>
     <message>
         <source>Matched all %1 group(s). Press Load set to verify them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Gruppe(n) zugeordnet. Zum Prüfen auf „Set laden“ klicken.</translation>
     </message>
     <message>
         <source>Matched %1 of %2 group(s). Fill the rest by hand, then press Load set.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Gruppe(n) zugeordnet. Den Rest von Hand ergänzen, dann auf „Set laden“ klicken.</translation>
     </message>
     <message>
         <source>The file list changed - press Load set to verify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateiliste hat sich geändert - zum erneuten Prüfen auf „Set laden“ klicken.</translation>
     </message>
     <message>
         <source>Load a patch first - a GPS-Sync set is one recording per group, and the group list comes from the patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Patch laden - ein GPS-Sync-Set besteht aus einer Aufnahme pro Gruppe, und die Gruppenliste stammt aus dem Patch.</translation>
     </message>
     <message>
         <source>GPS Mirra set: %1 recording(s), %2 frames each.</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS-Mirra-Set: %1 Aufnahme(n), je %2 Bilder.</translation>
     </message>
     <message>
         <source>Could not listen on %1:%2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfang auf %1:%2 nicht möglich - %3</translation>
     </message>
     <message>
         <source>Art-Net node active on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net-Node aktiv auf %1.</translation>
     </message>
     <message>
         <source>Listening on %1:%2, advertising %3 universe(s).</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfang auf %1:%2, %3 Universum/Universen werden gemeldet.</translation>
     </message>
     <message>
         <source>Not listening.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Empfang.</translation>
     </message>
     <message>
         <source>Start listening first - there is no node to announce.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst den Empfang starten - es gibt keinen Node, der gemeldet werden kann.</translation>
     </message>
     <message>
         <source>ArtPollReply broadcast.</source>
-        <translation type="unfinished"></translation>
+        <translation>ArtPollReply per Broadcast gesendet.</translation>
     </message>
     <message>
         <source>Stop listening first - the address cannot change while the node is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst den Empfang stoppen - die Adresse kann nicht geändert werden, solange der Node läuft.</translation>
     </message>
     <message>
         <source>Network interfaces refreshed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkschnittstellen aktualisiert.</translation>
     </message>
     <message>
         <source>Start listening first - there is nothing to record yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst den Empfang starten - noch gibt es nichts aufzunehmen.</translation>
     </message>
     <message>
         <source>Pick a folder and a file name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Ordner und einen Dateinamen wählen.</translation>
     </message>
     <message>
         <source>Could not write %1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geschrieben werden - %2</translation>
     </message>
     <message>
         <source>Appending to %1 (%2 KB already in the file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird an %1 angehängt (bereits %2 KB in der Datei).</translation>
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme nach %1</translation>
     </message>
     <message>
         <source>Saved %1 frame(s), %2 record(s), %3 KB to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bild(er), %2 Datensatz/-sätze, %3 KB in %4 gespeichert</translation>
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme gestoppt: %1</translation>
     </message>
     <message>
         <source>Planned for a future version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für eine künftige Version geplant.</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>Open Patch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch öffnen...</translation>
     </message>
     <message>
         <source>Open Recording...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme öffnen...</translation>
     </message>
     <message>
         <source>Open GPS-Sync Set Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS-Sync-Set-Ordner öffnen...</translation>
     </message>
     <message>
         <source>Match every group of the loaded patch with its &lt;name&gt;_&lt;Group&gt;.tpx file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Gruppe des geladenen Patches ihre Datei &lt;name&gt;_&lt;Group&gt;.tpx aus einem Ordner zuordnen.</translation>
     </message>
     <message>
         <source>Recent Patches</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt verwendete Patches</translation>
     </message>
     <message>
         <source>Recent Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt verwendete Aufnahmen</translation>
     </message>
     <message>
         <source>Open Network Log...</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log öffnen...</translation>
     </message>
     <message>
         <source>Save Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log speichern</translation>
     </message>
     <message>
         <source>Save Network Log As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log speichern unter...</translation>
     </message>
     <message>
         <source>Save Monitor Snapshot...</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitor-Snapshot speichern...</translation>
     </message>
     <message>
         <source>Export Patch Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Bericht exportieren...</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Network Log...</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log...</translation>
     </message>
     <message>
         <source>Copy Monitor Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitorbild kopieren</translation>
     </message>
     <message>
         <source>Interface Theme...</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberflächendesign...</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen...</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>2D Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>2D-Monitor</translation>
     </message>
     <message>
         <source>3D Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>3D-Monitor</translation>
     </message>
     <message>
         <source>Fit to View</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>3D Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>3D-Kamera</translation>
     </message>
     <message>
         <source>Reset Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera zurücksetzen</translation>
     </message>
     <message>
         <source>Show Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Achsen anzeigen</translation>
     </message>
     <message>
         <source>Fast Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell zeichnen</translation>
     </message>
     <message>
         <source>Auto Orbit</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Orbit</translation>
     </message>
     <message>
         <source>White Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißkanäle</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>&amp;Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe / Pause</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Anfang</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriges Bild</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Bild</translation>
     </message>
     <message>
         <source>Go to Frame...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu Bild...</translation>
     </message>
     <message>
         <source>Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Schleife</translation>
     </message>
     <message>
         <source>GPS Mirra Set</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS-Mirra-Set</translation>
     </message>
     <message>
         <source>&amp;Broadcast</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Live</translation>
     </message>
     <message>
         <source>Listen for Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net empfangen</translation>
     </message>
     <message>
         <source>Record Incoming Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehenden Stream aufnehmen</translation>
     </message>
     <message>
         <source>Announce Node Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Node jetzt melden</translation>
     </message>
     <message>
         <source>Broadcast an ArtPollReply immediately instead of waiting for the next poll.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort ein ArtPollReply per Broadcast senden, statt auf den nächsten Poll zu warten.</translation>
     </message>
     <message>
         <source>Refresh Network Interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkschnittstellen aktualisieren</translation>
     </message>
     <message>
         <source>Node Discovery (ArtPoll Scan)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Node-Suche (ArtPoll-Scan)...</translation>
     </message>
     <message>
         <source>Test Signal Generator...</source>
-        <translation type="unfinished"></translation>
+        <translation>Testsignal-Generator...</translation>
     </message>
     <message>
         <source>sACN (E1.31) Input</source>
-        <translation type="unfinished"></translation>
+        <translation>sACN-Eingang (E1.31)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Language...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache...</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Website</translation>
     </message>
     <message>
         <source>Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionshinweise</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Open Logs Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Log-Ordner öffnen</translation>
     </message>
     <message>
         <source>Patches that produced import warnings are kept here together with the messages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Patches, die beim Import Warnungen erzeugt haben, werden hier zusammen mit den Meldungen abgelegt.</translation>
     </message>
     <message>
         <source>User Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerhandbuch</translation>
     </message>
     <message>
         <source>Check for Updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>(empty)</source>
-        <translation type="unfinished"></translation>
+        <translation>(leer)</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>Open Patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch öffnen</translation>
     </message>
     <message>
         <source>Patches (*.tpatch *.mpz *.elm *.elmbackup);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Patches (*.tpatch *.mpz *.elm *.elmbackup);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Open Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme öffnen</translation>
     </message>
     <message>
         <source>Recordings (*.tpx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen (*.tpx);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Playback paused.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe pausiert.</translation>
     </message>
     <message>
         <source>Go to Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu Bild</translation>
     </message>
     <message>
         <source>Frame (0 - %1):</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild (0 - %1):</translation>
     </message>
     <message>
         <source>Monitor image copied to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Monitorbild in die Zwischenablage kopiert.</translation>
     </message>
     <message>
         <source>Interface theme: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberflächendesign: %1</translation>
     </message>
     <message>
         <source>Interface Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberflächendesign</translation>
     </message>
     <message>
         <source>Theme:</source>
-        <translation type="unfinished"></translation>
+        <translation>Design:</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache:</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>There is no writable logs folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen beschreibbaren Log-Ordner.</translation>
     </message>
     <message>
         <source>Logs folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Log-Ordner: %1</translation>
     </message>
     <message>
         <source>About Torvane TALU</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Torvane TALU</translation>
     </message>
     <message>
         <source>See what an LED installation shows for a stream of Art-Net DMX data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was eine LED-Installation bei einem Strom von Art-Net-DMX-Daten darstellt.</translation>
     </message>
     <message>
         <source>Version %1, built %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1, erstellt am %2.</translation>
     </message>
     <message>
         <source>Running on Qt %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>This program uses:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Programm verwendet:</translation>
     </message>
     <message>
         <source>Qt %1 (The Qt Company), under the GNU Lesser General Public License version 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1 (The Qt Company), unter der GNU Lesser General Public License Version 3.</translation>
     </message>
     <message>
         <source>zlib (Jean-loup Gailly and Mark Adler), under the zlib licence.</source>
-        <translation type="unfinished"></translation>
+        <translation>zlib (Jean-loup Gailly und Mark Adler), unter der zlib-Lizenz.</translation>
     </message>
     <message>
         <source>Torvane TALU is © 2026 Torvane. All rights reserved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU ist © 2026 Torvane. Alle Rechte vorbehalten.</translation>
     </message>
     <message>
         <source>About Qt</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Qt</translation>
     </message>
     <message>
         <source>no writable logs folder</source>
-        <translation type="unfinished"></translation>
+        <translation>kein beschreibbarer Log-Ordner</translation>
     </message>
     <message>
         <source>Patch could not be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Patch konnte nicht geladen werden.</translation>
     </message>
     <message>
         <source>A copy of the file and this message was saved to:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie der Datei und dieser Meldung wurde gespeichert unter:
+%1</translation>
     </message>
     <message>
         <source>Patch Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Fehler</translation>
     </message>
     <message>
         <source>No recording loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Aufnahme geladen.</translation>
     </message>
     <message>
         <source>This patch has no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Patch hat keine Gruppen.</translation>
     </message>
     <message>
         <source>No set loaded. Give every group its own GPS-Sync recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Set geladen. Weisen Sie jeder Gruppe eine eigene GPS-Sync-Aufnahme zu.</translation>
     </message>
     <message>
         <source>Patch loaded but contains no drawable pixels. Check that the patch was saved from the Patch Editor with its layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch geladen, enthält aber keine darstellbaren Pixel. Prüfen Sie, ob der Patch im Patch-Editor mit seinem Layout gespeichert wurde.</translation>
     </message>
     <message>
         <source>Loaded %1 in %2 ms.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2 ms geladen.</translation>
     </message>
     <message>
         <source>Loaded %1 in %2 ms with %3 warning(s) - see the Patch tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2 ms geladen, mit %3 Warnung(en) - siehe Tab „Patch“.</translation>
     </message>
     <message>
         <source>%1 pixels drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pixel gezeichnet.</translation>
     </message>
     <message>
         <source>A copy of the patch and its warnings is in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie des Patches und seiner Warnungen liegt in %1</translation>
     </message>
     <message>
         <source>There is no set to play. Fill in the group recordings and press Load set first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Set zum Abspielen. Zuerst die Gruppenaufnahmen eintragen und auf „Set laden“ klicken.</translation>
     </message>
     <message>
         <source>There is no recording to play. Load a .tpx file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Aufnahme zum Abspielen. Zuerst eine .tpx-Datei laden.</translation>
     </message>
     <message>
         <source>Nothing to play - no recording is loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts abzuspielen - keine Aufnahme geladen.</translation>
     </message>
     <message>
         <source>Playback controls work in Recorded playback mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wiedergabesteuerung funktioniert im Modus „Aufnahme-Wiedergabe“.</translation>
     </message>
     <message>
         <source>Playing %1 recording(s) in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Aufnahme(n) werden synchron abgespielt.</translation>
     </message>
     <message>
         <source>Playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe läuft.</translation>
     </message>
     <message>
         <source>Reached the end of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende der Aufnahme erreicht.</translation>
     </message>
     <message>
         <source>Rewound to the first frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum ersten Bild zurückgesetzt.</translation>
     </message>
     <message>
         <source>%1 frames at %2 fps = %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bilder bei %2 fps = %3 s</translation>
     </message>
     <message>
         <source>This machine is not sustaining %1 fps (about %2 fps measured). Playback continues and drops frames to stay in real time; lower the fps yourself if you want every frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hält %1 fps nicht durch (gemessen etwa %2 fps). Die Wiedergabe läuft weiter und verwirft Bilder, um in Echtzeit zu bleiben; senken Sie die fps selbst, wenn jedes Bild angezeigt werden soll.</translation>
     </message>
     <message>
         <source>Sustaining about %1 fps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hält etwa %1 fps.</translation>
     </message>
     <message>
         <source>GPS Mirra: one recording per group, all driven from one clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS Mirra: eine Aufnahme pro Gruppe, alle von einem gemeinsamen Takt gesteuert.</translation>
     </message>
     <message>
         <source>Standard Art-Net: a single recording drives the whole patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Art-Net: Eine einzige Aufnahme steuert den gesamten Patch.</translation>
     </message>
     <message>
         <source>Enter a .tpx path or pick one with the ... button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen .tpx-Pfad eingeben oder über die Schaltfläche ... auswählen.</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei nicht gefunden: %1</translation>
     </message>
     <message>
         <source>%1 · %2 · %3 frames · %4 s at %5 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 · %3 Bilder · %4 s bei %5 fps</translation>
     </message>
     <message>
         <source>No patch loaded - the monitor stays dark; the DMX tab shows every recorded universe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen - der Monitor bleibt dunkel; der DMX-Tab zeigt jedes aufgenommene Universum.</translation>
     </message>
     <message>
         <source>Space plays and pauses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leertaste startet und pausiert die Wiedergabe.</translation>
     </message>
     <message>
         <source>White channel contribution off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weißkanal-Anteil aus.</translation>
     </message>
     <message>
         <source>This patch has no W / CW / WW channels - white contribution has nothing to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Patch hat keine Kanäle W / CW / WW - der Weißanteil hat nichts hinzuzufügen.</translation>
     </message>
     <message>
         <source>%1 px with white (W %2 · CW %3 · WW %4)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px mit Weiß (W %2 · CW %3 · WW %4)</translation>
     </message>
     <message>
         <source>peak white value %1 - contribution applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>höchster Weißwert %1 - Anteil wird angewendet.</translation>
     </message>
     <message>
         <source>but every white value received so far is 0. MOX writes 0 to these channels unless White Channel is configured in the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>aber jeder bisher empfangene Weißwert ist 0. MOX schreibt 0 in diese Kanäle, sofern White Channel nicht im Projekt konfiguriert ist.</translation>
     </message>
     <message>
         <source>%1 / %2 · port 0x%3 · channel %4 · Z %5 · rgb(%6, %7, %8)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2 · Port 0x%3 · Kanal %4 · Z %5 · rgb(%6, %7, %8)</translation>
     </message>
 </context>
 <context>
     <name>MoxStyle</name>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
 </context>
 <context>
     <name>PacketLog</name>
     <message>
         <source>The capture is cut short in packet %1 (at byte %2); the %3 packets before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mitschnitt bricht bei Paket %1 ab (bei Byte %2); die %3 Pakete davor wurden gelesen.</translation>
     </message>
     <message>
         <source>The capture is damaged at packet %1 (at byte %2); the %3 packets before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Mitschnitt ist bei Paket %1 beschädigt (bei Byte %2); die %3 Pakete davor wurden gelesen.</translation>
     </message>
     <message>
         <source>%1 packets were not UDP over IPv4 and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pakete waren kein UDP über IPv4 und wurden ausgelassen.</translation>
     </message>
     <message>
         <source>This is not a pcap capture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine pcap-Mitschnittdatei.</translation>
     </message>
     <message>
         <source>This is not a pcapng capture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine pcapng-Mitschnittdatei.</translation>
     </message>
     <message>
         <source>Unexpected end of filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwartetes Ende des Filters.</translation>
     </message>
     <message>
         <source>Missing &apos;)&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;)&apos; fehlt.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert nach &apos;%1&apos; fehlt.</translation>
     </message>
     <message>
         <source>Unexpected token: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwartetes Token: %1</translation>
     </message>
     <message>
         <source>The filter is nested too deeply (more than %1 levels of &apos;!&apos; and &apos;(&apos;).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filter ist zu tief verschachtelt (mehr als %1 Ebenen von &apos;!&apos; und &apos;(&apos;).</translation>
     </message>
     <message>
         <source>source or destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle oder Ziel</translation>
     </message>
     <message>
         <source>This is neither a packet log (.tlog) nor a pcapng or pcap capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist weder ein Paket-Log (.tlog) noch ein pcapng- oder pcap-Mitschnitt.</translation>
     </message>
     <message>
         <source>Cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>Cannot write the packet log %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket-Log %1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>SEND FAILED</source>
-        <translation type="unfinished"></translation>
+        <translation>SENDEN FEHLGESCHLAGEN</translation>
     </message>
     <message>
         <source>NOT SENT</source>
-        <translation type="unfinished"></translation>
+        <translation>NICHT GESENDET</translation>
     </message>
     <message>
         <source>PARTIAL WRITE</source>
-        <translation type="unfinished"></translation>
+        <translation>TEILWEISE GESCHRIEBEN</translation>
     </message>
     <message>
         <source>device offline (no ArtPollReply within the liveness window)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät offline (kein ArtPollReply innerhalb des Lebenszeichen-Zeitfensters)</translation>
     </message>
     <message>
         <source>output is closed (udpTransferOpen = false)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgang ist geschlossen (udpTransferOpen = false)</translation>
     </message>
     <message>
         <source>Device Manager test broadcast is active</source>
-        <translation type="unfinished"></translation>
+        <translation>Test-Broadcast des Device Managers ist aktiv</translation>
     </message>
     <message>
         <source>socket unavailable (adapter is being switched)</source>
-        <translation type="unfinished"></translation>
+        <translation>Socket nicht verfügbar (Adapter wird gewechselt)</translation>
     </message>
     <message>
         <source>target address could not be resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zieladresse konnte nicht aufgelöst werden</translation>
     </message>
     <message>
         <source>Access denied. A broadcast address was used on a socket that does not have SO_BROADCAST enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert. Eine Broadcast-Adresse wurde auf einem Socket verwendet, bei dem SO_BROADCAST nicht aktiviert ist.</translation>
     </message>
     <message>
         <source>The datagram is larger than the maximum the transport supports. Check the channel count and the interface MTU.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Datagramm ist größer als das vom Transport unterstützte Maximum. Prüfen Sie die Kanalanzahl und die MTU der Schnittstelle.</translation>
     </message>
     <message>
         <source>The requested address is not valid in this context. The adapter may have lost its IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die angeforderte Adresse ist in diesem Kontext ungültig. Der Adapter hat möglicherweise seine IP-Adresse verloren.</translation>
     </message>
     <message>
         <source>The network is down. The adapter is disconnected or disabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Netzwerk ist nicht verfügbar. Der Adapter ist getrennt oder deaktiviert.</translation>
     </message>
     <message>
         <source>The network is unreachable. There is no route from the selected adapter to this destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Netzwerk ist nicht erreichbar. Es gibt keine Route vom gewählten Adapter zu diesem Ziel.</translation>
     </message>
     <message>
         <source>The remote host reset the connection. An earlier packet triggered an ICMP port-unreachable reply, which means nothing is listening on the destination port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der entfernte Host hat die Verbindung zurückgesetzt. Ein früheres Paket hat eine ICMP-Antwort „Port Unreachable“ ausgelöst, d. h. auf dem Zielport lauscht nichts.</translation>
     </message>
     <message>
         <source>No buffer space available. The send queue is full: the interface cannot drain packets as fast as they are being produced, or the destination MAC has not been resolved and datagrams are piling up waiting for ARP. Lowering the frame rate or checking the link usually resolves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Pufferspeicher verfügbar. Die Sendewarteschlange ist voll: Die Schnittstelle kann Pakete nicht so schnell abarbeiten, wie sie erzeugt werden, oder die Ziel-MAC wurde nicht aufgelöst und Datagramme stauen sich, während sie auf ARP warten. Eine niedrigere Bildrate oder eine Prüfung der Verbindung behebt das meist.</translation>
     </message>
     <message>
         <source>The destination host is down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zielhost ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>No route to host. ARP could not resolve the destination MAC address, so the frame was never built. This is the usual cause when nothing appears on the wire at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Route zum Host. ARP konnte die Ziel-MAC-Adresse nicht auflösen, daher wurde der Ethernet-Frame nie erzeugt. Das ist die übliche Ursache, wenn überhaupt nichts auf der Leitung erscheint.</translation>
     </message>
     <message>
         <source>Cannot write the capture file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mitschnittdatei kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>This is not a packet log file (.tlog).</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine Paket-Log-Datei (.tlog).</translation>
     </message>
     <message>
         <source>The packet log is version %1 with %2-byte records; this program reads version 1 with 296-byte records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket-Log hat Version %1 mit %2-Byte-Datensätzen; dieses Programm liest Version 1 mit 296-Byte-Datensätzen.</translation>
     </message>
     <message>
         <source>The packet log&apos;s header is cut short.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Header des Paket-Logs ist unvollständig.</translation>
     </message>
     <message>
         <source>Record %1 (at byte %2) is damaged; the %3 records before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensatz %1 (bei Byte %2) ist beschädigt; die %3 Datensätze davor wurden gelesen.</translation>
     </message>
     <message>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paket-Log bricht bei Datensatz %1 ab (bei Byte %2); die %3 Datensätze davor wurden gelesen.</translation>
     </message>
 </context>
 <context>
     <name>PatchBar</name>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen.</translation>
     </message>
     <message>
         <source>Patch File</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Datei</translation>
     </message>
     <message>
         <source>Path to a patch file (.tpatch, .mpz, .elm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad zu einer Patch-Datei (.tpatch, .mpz, .elm)</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for a patch file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer Patch-Datei suchen</translation>
     </message>
     <message>
         <source>Patch file path</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad der Patch-Datei</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Load the patch and build the monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch laden und Monitor aufbauen</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lädt...</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Enter a patch path or pick one with the ... button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Patch-Pfad eingeben oder über die Schaltfläche ... auswählen.</translation>
     </message>
     <message>
         <source>Select Patch File</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Datei wählen</translation>
     </message>
     <message>
         <source>Patch Files (*.tpatch *.mpz *.elm);;Torvane MOX Patch (*.tpatch);;MADRIX 5 Patch (*.mpz);;ENTTEC ELM Project (*.elm);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Dateien (*.tpatch *.mpz *.elm);;Torvane-MOX-Patch (*.tpatch);;MADRIX-5-Patch (*.mpz);;ENTTEC-ELM-Projekt (*.elm);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>PatchSummaryPanel</name>
     <message>
         <source>Patch Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch-Übersicht</translation>
     </message>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen.</translation>
     </message>
     <message>
         <source>Universes</source>
-        <translation type="unfinished"></translation>
+        <translation>Universen</translation>
     </message>
     <message>
         <source>Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to see its structure, universe list and channel ranges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Patch laden (.tpatch, MADRIX .mpz oder ELM .elm), um seine Struktur, die Liste der Universen und die Kanalbereiche zu sehen.</translation>
     </message>
     <message>
         <source>device %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät %1</translation>
     </message>
     <message>
         <source>Device #%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät #%1</translation>
     </message>
     <message>
         <source>format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Format %1</translation>
     </message>
     <message>
         <source>imported from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>importiert aus %1</translation>
     </message>
     <message>
         <source>(unnamed project)</source>
-        <translation type="unfinished"></translation>
+        <translation>(unbenanntes Projekt)</translation>
     </message>
     <message>
         <source>%1 ch limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit %1 Kanäle</translation>
     </message>
     <message>
         <source>no white channels</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Weißkanäle</translation>
     </message>
     <message>
         <source>%1 px with white (W %2 · CW %3 · WW %4)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px mit Weiß (W %2 · CW %3 · WW %4)</translation>
     </message>
     <message>
         <source>%1 groups · %2 universes · %3 fixtures</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gruppen · %2 Universen · %3 Fixtures</translation>
     </message>
     <message>
         <source>%1 pixels (%2 drawable) · %3 kinetics</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Pixel (%2 darstellbar) · %3 Kinetik-Elemente</translation>
     </message>
     <message>
         <source>Art-Net: MADRIX universe N arrives here as Port-Address N-1. In the MADRIX Device Manager, set the Universe of this tester&apos;s &quot;BindIdx N&quot; row to N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net: MADRIX-Universum N kommt hier als Port-Address N-1 an. Setzen Sie im MADRIX Device Manager das Universe der Zeile &quot;BindIdx N&quot; dieses Testers auf N.</translation>
     </message>
     <message>
         <source>Art-Net: the universes are taken from the ELM project as they are (ELM universe = Port-Address).</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net: Die Universen werden unverändert aus dem ELM-Projekt übernommen (ELM-Universum = Port-Address).</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen</translation>
     </message>
 </context>
 <context>
     <name>PixelTexts</name>
     <message>
         <source>%1 @ %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 @ %2</translation>
     </message>
     <message>
         <source>Fixture</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixture</translation>
     </message>
     <message>
         <source>Group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe: %1</translation>
     </message>
     <message>
         <source>Torvoverse: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvoverse: %1</translation>
     </message>
     <message>
         <source>Port address: 0x%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Port-Address: 0x%1</translation>
     </message>
     <message>
         <source>Start channel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Startkanal: %1</translation>
     </message>
     <message>
         <source>Slots: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Slots: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
 </context>
 <context>
     <name>PlaybackPanel</name>
     <message>
         <source>Path to a .tpx recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad zu einer .tpx-Aufnahme</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for a .tpx recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer .tpx-Aufnahme suchen</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden</translation>
     </message>
     <message>
         <source>Stop and return to the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen und zum ersten Bild zurück</translation>
     </message>
     <message>
         <source>Frames are presented at exactly this rate.
 The timestamp stored in the file is ignored - its scale is not reliable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder werden mit genau dieser Rate ausgegeben.
+Der in der Datei gespeicherte Zeitstempel wird ignoriert - seine Skalierung ist nicht zuverlässig.</translation>
     </message>
     <message>
         <source>Loop playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe in Schleife</translation>
     </message>
     <message>
         <source>Play the recording end to end, over and over.
 This is how you check whether a period-based recording loops seamlessly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme von Anfang bis Ende immer wieder abspielen.
+So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</translation>
     </message>
     <message>
         <source>Frame %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild %1 / %2</translation>
     </message>
     <message>
         <source>Select Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme wählen</translation>
     </message>
     <message>
         <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane-Aufnahme (*.tpx);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>PlaybackTransport</name>
     <message>
         <source>Measured %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemessen %1 fps</translation>
     </message>
     <message>
         <source>%1 frame(s) dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bild(er) verworfen</translation>
     </message>
     <message>
         <source>%1 ms/frame (max %2 fps)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms/Bild (max. %2 fps)</translation>
     </message>
     <message>
         <source>%1 ms/frame</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms/Bild</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Anfang</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildrate</translation>
     </message>
     <message>
         <source> fps</source>
-        <translation type="unfinished"></translation>
+        <translation> fps</translation>
     </message>
     <message>
         <source>Playback position</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabeposition</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist ein Verzeichnis</translation>
     </message>
 </context>
 <context>
     <name>RecordingWriter</name>
     <message>
         <source>The file was removed or renamed while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde während der Aufnahme entfernt oder umbenannt.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>TPatch</name>
     <message>
         <source>the &lt;console&gt; root element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Wurzelelement &lt;console&gt; fehlt</translation>
     </message>
     <message>
         <source>the document has no root element</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument hat kein Wurzelelement</translation>
     </message>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Zeile %2)</translation>
     </message>
     <message>
         <source>%1 fixture(s) use 16-bit LED types (%2); the monitor shows the high byte of each color only.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) verwenden 16-Bit-LED-Typen (%2); der Monitor zeigt nur das High-Byte jeder Farbe.</translation>
     </message>
     <message>
         <source>Color channels the tester cannot show yet were ignored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbkanäle, die der Tester noch nicht darstellen kann, wurden ignoriert: %1</translation>
     </message>
     <message>
         <source>%1 fixture(s) have a pixel split across a universe boundary; its channels in the next universe are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei %1 Fixture(s) ist ein Pixel über eine Universumsgrenze aufgeteilt; seine Kanäle im nächsten Universum werden nicht angezeigt.</translation>
     </message>
     <message>
         <source>%1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) reichen über DMX-Kanal 512 ihres Universums hinaus; Kanäle jenseits von 512 werden nicht angezeigt.</translation>
     </message>
     <message>
         <source>%1 fixture(s) output %2 rather than Art-Net and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) geben %2 statt Art-Net aus und wurden übersprungen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) use LED types the tester does not know (%2) and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) verwenden LED-Typen, die der Tester nicht kennt (%2), und wurden übersprungen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) verwenden ein Universum, das nicht in eine Art-Net-Port-Address passt, und wurden übersprungen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) are incomplete in the file and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) sind in der Datei unvollständig und wurden übersprungen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) were skipped: the project has more than %2 LEDs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) wurden übersprungen: Das Projekt hat mehr als %2 LEDs.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a readable ELM project: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist kein lesbares ELM-Projekt: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no DMX fixtures that can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; enthält keine darstellbaren DMX-Fixtures.</translation>
     </message>
     <message>
         <source>zlib could not be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>zlib konnte nicht initialisiert werden</translation>
     </message>
     <message>
         <source>the unpacked data is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>die entpackten Daten sind zu groß</translation>
     </message>
     <message>
         <source>the file is truncated</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist abgeschnitten</translation>
     </message>
     <message>
         <source>zlib error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zlib-Fehler %1</translation>
     </message>
     <message>
         <source>Error:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler:</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen:</translation>
     </message>
     <message>
         <source>the &lt;madrix_patch&gt; root element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Wurzelelement &lt;madrix_patch&gt; fehlt</translation>
     </message>
     <message>
         <source>the &lt;fixture_list&gt; element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Element &lt;fixture_list&gt; fehlt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a readable MADRIX patch: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist kein lesbarer MADRIX-Patch: %2</translation>
     </message>
     <message>
         <source>Some MADRIX fields are not supported yet and were ignored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige MADRIX-Felder werden noch nicht unterstützt und wurden ignoriert: %1</translation>
     </message>
     <message>
         <source>%1 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were placed in one group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MADRIX-Fixture-Gruppe(n) gefunden, Gruppen werden aber noch nicht importiert; alle Fixtures wurden in eine Gruppe gelegt.</translation>
     </message>
     <message>
         <source>%1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified against MADRIX yet. Check them on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gedrehte Multi-Pixel-Fixture(s): Das Pixel-Layout nach der Drehung wurde noch nicht mit MADRIX abgeglichen. Bitte auf dem Monitor prüfen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first 6 are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) haben Pixel, deren Farbkanäle mehr als 6 DMX-Kanäle umfassen; nur die ersten 6 werden angezeigt.</translation>
     </message>
     <message>
         <source>%1 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches Art-Net.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 DVI-Fixture(s) wurden übersprungen: Sie haben keine DMX-Adresse, daher gelangt nichts von ihnen zu Art-Net.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have no color channel the tester can show and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) haben keinen Farbkanal, den der Tester darstellen kann, und wurden übersprungen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was saved by %2 (file version %3), which this importer has not been checked against. Verify the result on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; wurde mit %2 gespeichert (Dateiversion %3); dieser Importer wurde damit nicht getestet. Prüfen Sie das Ergebnis auf dem Monitor.</translation>
     </message>
     <message>
         <source>Could not open &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; konnte nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>Device #%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät #%1</translation>
     </message>
     <message>
         <source>%1 fixtures overlap on %2 screen position(s) - only the topmost one is visible. Use the group filter to isolate a torvoverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixtures überlappen an %2 Bildschirmposition(en) - nur das oberste ist sichtbar. Isolieren Sie ein Torvoverse mit dem Gruppenfilter.</translation>
     </message>
     <message>
         <source>Universe numbers above 15 are truncated to 4 bits on the wire (Art-Net PortAddress). Affected universes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Universumsnummern über 15 werden auf der Leitung auf 4 Bit gekürzt (Art-Net PortAddress). Betroffene Universen: %1</translation>
     </message>
     <message>
         <source>%1 port address(es) are used by more than one torvoverse (%2). Recorded playback can still tell them apart by frame order, but a live capture at a single IP will only see one device&apos;s data.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Port-Address(es) werden von mehr als einem Torvoverse verwendet (%2). Die Aufnahme-Wiedergabe kann sie noch über die Reihenfolge im Bild unterscheiden, ein Live-Mitschnitt an einer einzelnen IP sieht aber nur die Daten eines Geräts.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a valid .tpatch file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist keine gültige .tpatch-Datei: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; enthält keine Gruppen.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have no usable scene layout and will not be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fixture(s) haben kein verwendbares Szenen-Layout und werden nicht gezeichnet.</translation>
     </message>
     <message>
         <source>(+%1 more)</source>
-        <translation type="unfinished"></translation>
+        <translation>(+%1 weitere)</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, not a recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist ein Ordner, keine Aufnahme.</translation>
     </message>
     <message>
         <source>All %1 file(s) carry the %2-byte GPS metadata block</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Datei(en) enthalten den %2-Byte-GPS-Metadatenblock</translation>
     </message>
     <message>
         <source>%1 file(s) are not GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datei(en) sind keine GPS-Sync-Aufnahmen</translation>
     </message>
     <message>
         <source>%1 - these files begin directly with an Art-Net packet, with no GPS metadata block in front of it. They were recorded with GPS Sync Compatible Record OFF and belong in the Standard Art-Net tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - diese Dateien beginnen direkt mit einem Art-Net-Paket, ohne vorangestellten GPS-Metadatenblock. Sie wurden mit ausgeschaltetem GPS Sync Compatible Record aufgenommen und gehören in den Tab „Standard-Art-Net“.</translation>
     </message>
     <message>
         <source>Patch has no drawable universes to compare against</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Patch hat keine darstellbaren Universen zum Vergleichen</translation>
     </message>
     <message>
         <source>The recordings will still play, but nothing verifies that their universe layout matches this patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahmen werden trotzdem abgespielt, aber nichts prüft, ob ihre Universumsaufteilung zu diesem Patch passt.</translation>
     </message>
     <message>
         <source>%1: file has %2, patch expects %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Datei hat %2, Patch erwartet %3</translation>
     </message>
     <message>
         <source>Universe count per frame matches the patch in every group</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anzahl der Universen pro Bild stimmt in jeder Gruppe mit dem Patch überein</translation>
     </message>
     <message>
         <source>Universe count per frame does not match the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anzahl der Universen pro Bild stimmt nicht mit dem Patch überein</translation>
     </message>
     <message>
         <source>%1. The recording was made from a different patch, or a file is assigned to the wrong group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Die Aufnahme stammt von einem anderen Patch, oder eine Datei ist der falschen Gruppe zugewiesen.</translation>
     </message>
     <message>
         <source>%1 (record %2 is universe %3, patch expects %4; expected order %5)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Datensatz %2 ist Universum %3, Patch erwartet %4; erwartete Reihenfolge %5)</translation>
     </message>
     <message>
         <source>Record order inside a frame matches the patch in every group</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Reihenfolge der Datensätze im Bild stimmt in jeder Gruppe mit dem Patch überein</translation>
     </message>
     <message>
         <source>Record order inside a frame does not match the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Reihenfolge der Datensätze im Bild stimmt nicht mit dem Patch überein</translation>
     </message>
     <message>
         <source>%1. Every pixel still lights up, but on the wrong torvoverse - this is the failure that looks correct at a glance. Note: MOX writes the universe field of a GPS record as (subNet&lt;&lt;8)|universe, while the wire uses the 15-bit PortAddress; the two only differ when a universe number is above 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Jedes Pixel leuchtet weiterhin, aber im falschen Torvoverse - dieser Fehler sieht auf den ersten Blick korrekt aus. Hinweis: MOX schreibt das Universe-Feld eines GPS-Datensatzes als (subNet&lt;&lt;8)|universe, während auf der Leitung die 15-Bit-PortAddress verwendet wird; beide unterscheiden sich nur, wenn eine Universumsnummer über 15 liegt.</translation>
     </message>
     <message>
         <source>%1: header says %2 bytes per frame, the file measures %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Header gibt %2 Byte pro Bild an, gemessen in der Datei: %3</translation>
     </message>
     <message>
         <source>%1: universeByteLength sums to %2 but frameByteSize says %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: universeByteLength ergibt in Summe %2, frameByteSize gibt aber %3 an</translation>
     </message>
     <message>
         <source>Frame byte size in the header matches the packets on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildgröße in Byte im Header stimmt mit den Paketen auf dem Datenträger überein</translation>
     </message>
     <message>
         <source>Frame byte size in the header is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildgröße in Byte im Header ist falsch</translation>
     </message>
     <message>
         <source>%1. A GPS device seeks by frameByteSize; a wrong value makes it land in the middle of a packet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Ein GPS-Gerät springt anhand von frameByteSize; ein falscher Wert lässt es mitten in einem Paket landen.</translation>
     </message>
     <message>
         <source>%1: %2 usable byte(s), %3 expected for %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 Byte verwendbar, %3 erwartet für %4 Bild(er)</translation>
     </message>
     <message>
         <source>Every frame occupies exactly the same number of bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Bild belegt genau gleich viele Byte</translation>
     </message>
     <message>
         <source>Some files carry bytes that do not form a whole frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien enthalten Bytes, die kein ganzes Bild ergeben</translation>
     </message>
     <message>
         <source>%1. The recording was cut short, or the universe lengths changed while it was running.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Die Aufnahme wurde vorzeitig beendet, oder die Universumslängen haben sich während der Aufnahme geändert.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>All %1 recording(s) are exactly %2 frame(s) long</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 Aufnahme(n) sind genau %2 Bild(er) lang</translation>
     </message>
     <message>
         <source>Recordings differ in length by %1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahmen unterscheiden sich in der Länge um %1 Bild(er)</translation>
     </message>
     <message>
         <source>%1. GPS devices stay locked by frame index, so the show falls apart as soon as the shortest file ends. Playback here stops at frame %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. GPS-Geräte bleiben über den Bildindex gekoppelt, daher zerfällt die Show, sobald die kürzeste Datei endet. Die Wiedergabe hier stoppt bei Bild %2.</translation>
     </message>
     <message>
         <source>%1: header says %2, file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Header gibt %2 an, Datei enthält %3</translation>
     </message>
     <message>
         <source>Frame count in the header matches the packets on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildanzahl im Header stimmt mit den Paketen auf dem Datenträger überein</translation>
     </message>
     <message>
         <source>Frame count in the header is out of date</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildanzahl im Header ist veraltet</translation>
     </message>
     <message>
         <source>%1. MOX writes this number when the recording is stopped; a zero or stale value means the recording was never closed properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. MOX schreibt diese Zahl beim Stoppen der Aufnahme; ein Wert von null oder ein veralteter Wert bedeutet, dass die Aufnahme nie ordnungsgemäß abgeschlossen wurde.</translation>
     </message>
     <message>
         <source>Timestamps are in lockstep across all %1 file(s), over all %2 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeitstempel sind über alle %1 Datei(en) und alle %2 Bild(er) synchron</translation>
     </message>
     <message>
         <source>Timestamps vary by up to %1 s inside a single frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeitstempel schwanken innerhalb eines einzelnen Bilds um bis zu %1 s</translation>
     </message>
     <message>
         <source>Worst in group %1. All records of one frame are written in the same pass and should carry one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am stärksten in Gruppe %1. Alle Datensätze eines Bilds werden im selben Durchgang geschrieben und sollten denselben Wert tragen.</translation>
     </message>
     <message>
         <source>Timestamps drift by up to %1 s between files</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeitstempel driften zwischen den Dateien um bis zu %1 s</translation>
     </message>
     <message>
         <source>First seen at frame %1. MOX stamps every group with the same value in a given frame, so a difference means these files are not from one recording session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst bei Bild %1 aufgetreten. MOX versieht in einem Bild jede Gruppe mit demselben Wert; eine Abweichung bedeutet also, dass diese Dateien nicht aus einer Aufnahmesession stammen.</translation>
     </message>
     <message>
         <source>The set carries %1 universe(s); the patch has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Set enthält %1 Universum/Universen; der Patch hat %2</translation>
     </message>
     <message>
         <source>Pixels with no record behind them stay dark for the whole run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel ohne zugehörigen Datensatz bleiben während des gesamten Durchlaufs dunkel.</translation>
     </message>
     <message>
         <source>The set covers all %1 torvoverse(s) in the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Set deckt alle %1 Torvoverse(s) im Patch ab</translation>
     </message>
     <message>
         <source>Two or more groups share a universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei oder mehr Gruppen teilen sich ein Universum</translation>
     </message>
     <message>
         <source>Universe(s) %1. Two files write the same pixels and the last one drawn wins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Universum/Universen %1. Zwei Dateien schreiben dieselben Pixel, und die zuletzt gezeichnete gewinnt.</translation>
     </message>
     <message>
         <source>No patch loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen</translation>
     </message>
     <message>
         <source>A GPS-Sync set is defined by the patch: one recording per group. Load a .tpatch first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein GPS-Sync-Set wird durch den Patch festgelegt: eine Aufnahme pro Gruppe. Laden Sie zuerst eine .tpatch-Datei.</translation>
     </message>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Patch geladen.</translation>
     </message>
     <message>
         <source>%1 of %2 group(s) have no recording</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Gruppe(n) haben keine Aufnahme</translation>
     </message>
     <message>
         <source>A GPS-Sync show is only complete when every group has its own file. Missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine GPS-Sync-Show ist erst vollständig, wenn jede Gruppe ihre eigene Datei hat. Es fehlen: %1</translation>
     </message>
     <message>
         <source>%1 recording(s) still missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Aufnahme(n) fehlen noch.</translation>
     </message>
     <message>
         <source>%1 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>%1 group(s), %1 recording(s) supplied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gruppe(n), %1 Aufnahme(n) angegeben</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>The same file is assigned to more than one group</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieselbe Datei ist mehr als einer Gruppe zugewiesen</translation>
     </message>
     <message>
         <source>%1. Each group has its own recording; reusing one file makes two groups play the same animation.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Jede Gruppe hat ihre eigene Aufnahme; wird eine Datei mehrfach verwendet, spielen zwei Gruppen dieselbe Animation.</translation>
     </message>
     <message>
         <source>%1: file cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Datei kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>%1 of %2 file(s) could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Datei(en) konnten nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The set holds no complete frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Set enthält kein vollständiges Bild.</translation>
     </message>
     <message>
         <source>%1 group(s) - %2 frames - %3 failure(s), %4 warning(s); playback is enabled so you can see them</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gruppe(n) - %2 Bilder - %3 Fehler, %4 Warnung(en); die Wiedergabe ist aktiviert, damit Sie sie sehen können</translation>
     </message>
     <message>
         <source>%1 group(s) - %2 frames - structure and sync verified</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gruppe(n) - %2 Bilder - Struktur und Sync geprüft</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no usable DMX records.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; enthält keine verwendbaren DMX-Datensätze.</translation>
     </message>
     <message>
         <source>Stopped parsing at byte %1 of %2 - the file is truncated or contains a record this reader does not understand. %3 record(s) were usable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einlesen bei Byte %1 von %2 abgebrochen - die Datei ist abgeschnitten oder enthält einen Datensatz, den dieser Leser nicht versteht. %3 Datensatz/-sätze waren verwendbar.</translation>
     </message>
     <message>
         <source>This recording does not match the loaded patch: the patch expects %1 record(s) per frame in a fixed order, but the file repeats every %2. Playback will follow the file and map records by universe number, which cannot separate devices that share a universe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Aufnahme passt nicht zum geladenen Patch: Der Patch erwartet %1 Datensatz/-sätze pro Bild in fester Reihenfolge, die Datei wiederholt sich aber alle %2. Die Wiedergabe folgt der Datei und ordnet Datensätze über die Universumsnummer zu; Geräte, die sich ein Universum teilen, lassen sich so nicht trennen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too small to contain a single record.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist zu klein, um auch nur einen Datensatz zu enthalten.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not start with an Art-Net or KEL DMX record. It is not a Torvane recording, or it is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; beginnt nicht mit einem Art-Net- oder KEL-DMX-Datensatz. Die Datei ist keine Torvane-Aufnahme oder beschädigt.</translation>
     </message>
     <message>
         <source>GPS-Sync recording: this file holds one group&apos;s universes only. Records are mapped by universe number, so pixels outside that group stay dark. Use the GPS Mirra tab to play a full set of group files together.</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS-Sync-Aufnahme: Diese Datei enthält nur die Universen einer Gruppe. Datensätze werden über die Universumsnummer zugeordnet, daher bleiben Pixel außerhalb dieser Gruppe dunkel. Verwenden Sie den Tab „GPS Mirra“, um ein vollständiges Set von Gruppendateien gemeinsam abzuspielen.</translation>
     </message>
     <message>
         <source>%1 trailing record(s) do not form a complete frame and are ignored.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datensatz/-sätze am Ende ergeben kein vollständiges Bild und werden ignoriert.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not contain a complete frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; enthält kein vollständiges Bild.</translation>
     </message>
     <message>
         <source>Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net</translation>
     </message>
     <message>
         <source>KEL (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL (%1)</translation>
     </message>
     <message>
         <source>KEL</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL</translation>
     </message>
     <message>
         <source> GPS-Sync</source>
-        <translation type="unfinished"></translation>
+        <translation> GPS-Sync</translation>
     </message>
 </context>
 <context>
     <name>UniverseTableModel</name>
     <message>
         <source>port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>net/sub/uni</source>
-        <translation type="unfinished"></translation>
+        <translation>Net/Sub/Uni</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle</translation>
     </message>
     <message>
         <source>target IP</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel-IP</translation>
     </message>
 </context>
 <context>
     <name>UpdateController</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Software-Update</translation>
     </message>
     <message>
         <source>Check for updates automatically (once a day)</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen (einmal täglich)</translation>
     </message>
     <message>
         <source>Could not check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche nach Updates ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Torvane TALU %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU %1 ist die neueste Version.</translation>
     </message>
     <message>
         <source>Torvane TALU %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU %1 ist verfügbar. Installiert ist %2.</translation>
     </message>
     <message>
         <source>Download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen...</translation>
     </message>
     <message>
         <source>Ignore This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version ignorieren</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
 </context>
 </TS>
