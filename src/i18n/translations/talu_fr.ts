@@ -5,2143 +5,2166 @@
     <name>ArtNetNode</name>
     <message>
         <source>No socket could be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer le socket.</translation>
     </message>
     <message>
         <source>Only IPv4 addresses can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules les adresses IPv4 sont utilisables.</translation>
     </message>
 </context>
 <context>
     <name>BroadcastPanel</name>
     <message>
         <source>Torvane Tester</source>
-        <translation type="unfinished"></translation>
+        <translation>Testeur Torvane</translation>
     </message>
     <message>
         <source>TOVA</source>
-        <translation type="unfinished"></translation>
+        <translation>TOVA</translation>
     </message>
     <message>
         <source>BRENO</source>
-        <translation type="unfinished"></translation>
+        <translation>BRENO</translation>
     </message>
     <message>
         <source>KEL6S</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL6S</translation>
     </message>
     <message>
         <source>MIRRA</source>
-        <translation type="unfinished"></translation>
+        <translation>MIRRA</translation>
     </message>
     <message>
         <source>Generic node</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud générique</translation>
     </message>
     <message>
         <source>Not listening.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d&apos;écoute en cours.</translation>
     </message>
     <message>
         <source>Not recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d&apos;enregistrement en cours.</translation>
     </message>
     <message>
         <source>Listen on</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter sur</translation>
     </message>
     <message>
         <source>The local address this node listens on.
 
 Running alongside Torvane MOX on the same machine? Pick a specific address, not Any: MOX binds to Any, and Windows delivers a unicast packet to the more specific socket.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;adresse locale sur laquelle ce nœud écoute.
+
+Vous utilisez Torvane MOX sur la même machine ? Choisissez une adresse précise, pas Toutes : MOX se lie à Toutes (Any), et Windows remet un paquet unicast au socket le plus spécifique.</translation>
     </message>
     <message>
         <source>Any (0.0.0.0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes (0.0.0.0)</translation>
     </message>
     <message>
         <source>%1 (loopback)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (boucle locale)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>List the network interfaces again</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser la liste des interfaces réseau</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Art-Net uses 6454. Change only if you know why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net utilise le port 6454. Ne le changez que si vous savez pourquoi.</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>Preset identities. Pick one, then edit the fields below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Identités prédéfinies. Choisissez-en une, puis modifiez les champs ci-dessous.</translation>
     </message>
     <message>
         <source>Short name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom court</translation>
     </message>
     <message>
         <source>Long name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom long</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Net</translation>
     </message>
     <message>
         <source>Sub</source>
-        <translation type="unfinished"></translation>
+        <translation>Sub</translation>
     </message>
     <message>
         <source>Stop listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l&apos;écoute</translation>
     </message>
     <message>
         <source>Start listening</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer l&apos;écoute</translation>
     </message>
     <message>
         <source>Record incoming stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le flux entrant</translation>
     </message>
     <message>
         <source>Write every incoming Art-Net DMX packet to a .tpx file,
 byte compatible with Torvane MOX recordings.
 
 An existing file is appended to, not overwritten - that is how several animations end up in one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit chaque paquet Art-Net DMX entrant dans un fichier .tpx,
+compatible octet pour octet avec les enregistrements Torvane MOX.
+
+Un fichier existant est complété, pas écrasé : c&apos;est ainsi que plusieurs animations se retrouvent dans un même fichier.</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose where the recording is written</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir où écrire l&apos;enregistrement</translation>
     </message>
     <message>
         <source>File name (.tpx is added)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier (.tpx ajouté)</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source> fps</source>
-        <translation type="unfinished"></translation>
+        <translation> fps</translation>
     </message>
     <message>
         <source>The frame rate of the source that is sending to us.
 It only scales the 2-byte timestamp written into each record - the DMX data itself is stored exactly as received.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cadence de la source qui nous envoie les données.
+Elle ne sert qu&apos;à mettre à l&apos;échelle l&apos;horodatage de 2 octets écrit dans chaque entrée ; les données DMX elles-mêmes sont stockées exactement telles que reçues.</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>No patch loaded - recording works, but the monitor stays dark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé : l&apos;enregistrement fonctionne, mais le moniteur reste noir.</translation>
     </message>
     <message>
         <source>%1 (not present)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (absente)</translation>
     </message>
     <message>
         <source>Select Recording Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier d&apos;enregistrement</translation>
     </message>
     <message>
         <source>No ArtPoll seen yet - no controller is looking for nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun ArtPoll reçu pour l&apos;instant : aucun contrôleur ne recherche de nœuds.</translation>
     </message>
     <message>
         <source>Answering ArtPoll (%1 replies sent).</source>
-        <translation type="unfinished"></translation>
+        <translation>Réponse aux ArtPoll (%1 réponses envoyées).</translation>
     </message>
     <message>
         <source>Last ArtPoll %1 s ago - the controller may have stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier ArtPoll il y a %1 s : le contrôleur s&apos;est peut-être arrêté.</translation>
     </message>
     <message>
         <source>%1 pkt/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 paq./s</translation>
     </message>
     <message>
         <source>%1 packets</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 paquets</translation>
     </message>
     <message>
         <source>no DMX yet</source>
-        <translation type="unfinished"></translation>
+        <translation>pas encore de DMX</translation>
     </message>
     <message>
         <source>last %1 ms ago</source>
-        <translation type="unfinished"></translation>
+        <translation>dernier il y a %1 ms</translation>
     </message>
     <message>
         <source>%1 seq errors</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 erreurs de séq.</translation>
     </message>
     <message>
         <source>%1 ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ignorés</translation>
     </message>
 </context>
 <context>
     <name>DmxChannelGrid</name>
     <message>
         <source>no data</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune donnée</translation>
     </message>
 </context>
 <context>
     <name>DmxInspector</name>
     <message>
         <source>Decimal</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimal</translation>
     </message>
     <message>
         <source>Hex</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexa</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage</translation>
     </message>
     <message>
         <source>The universe shown, by Port-Address.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;univers affiché, par Port-Address.</translation>
     </message>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Univers</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs</translation>
     </message>
     <message>
         <source>-</source>
-        <translation type="unfinished"></translation>
+        <translation>-</translation>
     </message>
     <message>
         <source>Channel %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal %1 : %2</translation>
     </message>
     <message>
         <source> · not patched</source>
-        <translation type="unfinished"></translation>
+        <translation> · non patché</translation>
     </message>
     <message>
         <source>kinetic</source>
-        <translation type="unfinished"></translation>
+        <translation>cinétique</translation>
     </message>
     <message>
         <source>… (%1 in all)</source>
-        <translation type="unfinished"></translation>
+        <translation>… (%1 au total)</translation>
     </message>
     <message>
         <source> · %1 of pixel(s) %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 de pixel(s) %2</translation>
     </message>
 </context>
 <context>
     <name>GpsGroupRow</name>
     <message>
         <source>expects %1 universe(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>attend %1 univers</translation>
     </message>
     <message>
         <source>no drawable pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun pixel affichable</translation>
     </message>
     <message>
         <source>Recording for &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement pour « %1 »</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for the recording of &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l&apos;enregistrement de « %1 »</translation>
     </message>
     <message>
         <source>not verified</source>
-        <translation type="unfinished"></translation>
+        <translation>non vérifié</translation>
     </message>
     <message>
         <source>%1 - %2 frames - %3 universe(s)/frame - %4 B/frame</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2 images - %3 univers/image - %4 o/image</translation>
     </message>
     <message>
         <source> (patch expects %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (le patch en attend %1)</translation>
     </message>
     <message>
         <source>file differs from the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier diffère du patch</translation>
     </message>
     <message>
         <source>file usable</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier utilisable</translation>
     </message>
     <message>
         <source>file unusable</source>
-        <translation type="unfinished"></translation>
+        <translation>fichier inutilisable</translation>
     </message>
     <message>
         <source>Recording for group</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement du groupe</translation>
     </message>
     <message>
         <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement Torvane (*.tpx);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>GpsPlaybackPanel</name>
     <message>
         <source>One recording per group, all driven from one clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement par groupe, tous pilotés par une seule horloge.</translation>
     </message>
     <message>
         <source>MOX writes a GPS-Sync recording as one file per group, named &lt;name&gt;_&lt;Group&gt;.tpx.
 In the field each device plays its own group&apos;s file while the GPS pulse keeps them all on the same frame index.
 This tab does the same: one clock drives frame n of every file at the same instant.</source>
-        <translation type="unfinished"></translation>
+        <translation>MOX écrit un enregistrement GPS-Sync sous forme d&apos;un fichier par groupe, nommé &lt;nom&gt;_&lt;Groupe&gt;.tpx.
+Sur site, chaque appareil lit le fichier de son groupe tandis que l&apos;impulsion GPS les maintient tous sur le même index d&apos;image.
+Cet onglet fait de même : une horloge pilote l&apos;image n de chaque fichier au même instant.</translation>
     </message>
     <message>
         <source>Load a patch first - the group list comes from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargez d&apos;abord un patch : la liste des groupes en provient.</translation>
     </message>
     <message>
         <source>Auto-fill from folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir depuis un dossier...</translation>
     </message>
     <message>
         <source>Pick the folder the recording was saved into.
 
 MOX names GPS-Sync files &lt;name&gt;_&lt;Group&gt;.tpx, so every group can be matched by name. When a folder holds several sessions, the one that covers the most groups is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le dossier dans lequel l&apos;enregistrement a été sauvegardé.
+
+MOX nomme les fichiers GPS-Sync &lt;nom&gt;_&lt;Groupe&gt;.tpx, chaque groupe peut donc être associé par son nom. Si un dossier contient plusieurs sessions, celle qui couvre le plus de groupes est retenue.</translation>
     </message>
     <message>
         <source>Load set</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger le jeu</translation>
     </message>
     <message>
         <source>Open every file, verify structure and sync, then arm playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre chaque fichier, vérifie la structure et la synchro, puis arme la lecture.</translation>
     </message>
     <message>
         <source>Structure &amp; sync report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport structure &amp; synchro</translation>
     </message>
     <message>
         <source>Stop and return every file to its first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et ramener chaque fichier à sa première image</translation>
     </message>
     <message>
         <source>All files are presented at exactly this rate.
 The timestamp stored in the files is used to verify sync, not to pace playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers sont lus exactement à cette cadence.
+L&apos;horodatage stocké dans les fichiers sert à vérifier la synchro, pas à cadencer la lecture.</translation>
     </message>
     <message>
         <source>Loop the whole set (1 -&gt; end -&gt; 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire tout le jeu en boucle (1 -&gt; fin -&gt; 1)</translation>
     </message>
     <message>
         <source>Play the set end to end, over and over.
 Every file wraps on the same frame, so a set that drifts shows it within a few passes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit le jeu du début à la fin, encore et encore.
+Chaque fichier reboucle sur la même image : un jeu qui dérive se trahit en quelques passages.</translation>
     </message>
     <message>
         <source>Set loaded: %1 recording(s), %2 frames each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu chargé : %1 enregistrement(s), %2 images chacun.</translation>
     </message>
     <message>
         <source>No set loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun jeu chargé.</translation>
     </message>
     <message>
         <source>Frame %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Image %1 / %2</translation>
     </message>
     <message>
         <source>%1 file(s) driven together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichier(s) pilotés ensemble</translation>
     </message>
     <message>
         <source>timestamps in step</source>
-        <translation type="unfinished"></translation>
+        <translation>horodatages synchrones</translation>
     </message>
     <message>
         <source>timestamps %1 s apart</source>
-        <translation type="unfinished"></translation>
+        <translation>horodatages décalés de %1 s</translation>
     </message>
     <message>
         <source>Folder holding the GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier contenant les enregistrements GPS-Sync</translation>
     </message>
 </context>
 <context>
     <name>GroupFilterPanel</name>
     <message>
         <source>Groups &amp; Universes</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes &amp; univers</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Port addr.</source>
-        <translation type="unfinished"></translation>
+        <translation>Port-Address</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher</translation>
     </message>
     <message>
         <source>Hide all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout masquer</translation>
     </message>
     <message>
         <source>Z Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche Z</translation>
     </message>
     <message>
         <source>Z </source>
-        <translation type="unfinished"></translation>
+        <translation>Z </translation>
     </message>
     <message>
         <source>Only pixels on this Z layer are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls les pixels de cette couche Z sont affichés.</translation>
     </message>
     <message>
         <source>All Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout Z</translation>
     </message>
     <message>
         <source>Draw every Z layer at once. Layers overlap in 2D, so this is a quick look rather than an inspection view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche toutes les couches Z à la fois. Les couches se superposent en 2D : c&apos;est un aperçu rapide, pas une vue d&apos;inspection.</translation>
     </message>
     <message>
         <source>Universe %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Univers %1</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1</translation>
     </message>
     <message>
         <source>Net %1 / SubNet %2 / Universe %3
 Target IP %4
 Select to highlight this universe on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Net %1 / SubNet %2 / Universe %3
+IP cible %4
+Sélectionnez pour mettre en évidence cet univers sur le moniteur.</translation>
     </message>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px</translation>
     </message>
     <message>
         <source>Single layer (Z %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Couche unique (Z %1).</translation>
     </message>
     <message>
         <source>Layers %1 - %2. Only the selected layer is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couches %1 - %2. Seule la couche sélectionnée est affichée.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt. Chargez un patch (.tpatch, MADRIX .mpz ou ELM .elm) pour commencer.</translation>
     </message>
     <message>
         <source>Save Monitor Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une capture du moniteur</translation>
     </message>
     <message>
         <source>PNG Image (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image PNG (*.png)</translation>
     </message>
     <message>
         <source>Snapshot Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la capture</translation>
     </message>
     <message>
         <source>Could not write %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1.</translation>
     </message>
     <message>
         <source>Snapshot saved to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture enregistrée dans %1</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Recorded playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture d&apos;enregistrement</translation>
     </message>
     <message>
         <source>Play a .tpx recording. A patch is optional: without one the monitor stays dark and the DMX tab shows the data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit un enregistrement .tpx. Le patch est facultatif : sans patch, le moniteur reste noir et l&apos;onglet DMX affiche les données.</translation>
     </message>
     <message>
         <source>Live broadcast</source>
-        <translation type="unfinished"></translation>
+        <translation>Diffusion en direct</translation>
     </message>
     <message>
         <source>Act as an Art-Net node and paint the monitor from live DMX.</source>
-        <translation type="unfinished"></translation>
+        <translation>Agit comme un nœud Art-Net et affiche sur le moniteur le DMX reçu en direct.</translation>
     </message>
     <message>
         <source>Standard Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net standard</translation>
     </message>
     <message>
         <source>One .tpx file recorded for the whole patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier .tpx enregistré pour tout le patch.</translation>
     </message>
     <message>
         <source>GPS Mirra</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS Mirra</translation>
     </message>
     <message>
         <source>One .tpx file per group, recorded with GPS Sync Compatible Record.
 All of them are driven from a single clock, frame n at the same instant.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier .tpx par groupe, enregistré avec GPS Sync Compatible Record.
+Tous sont pilotés par une seule horloge, l&apos;image n au même instant.</translation>
     </message>
     <message>
         <source>Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes</translation>
     </message>
     <message>
         <source>Patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch</translation>
     </message>
     <message>
         <source>DMX</source>
-        <translation type="unfinished"></translation>
+        <translation>DMX</translation>
     </message>
     <message>
         <source>Fit to view</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster à la vue</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture</translation>
     </message>
     <message>
         <source>Save the current monitor image as a PNG file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l&apos;image actuelle du moniteur en fichier PNG</translation>
     </message>
     <message>
         <source>White channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux blancs</translation>
     </message>
     <message>
         <source>Add W / CW / WW channel values to the pixel colour.
 
 Off by default: MOX derives the white channels FROM rgb, so there is no single correct way back. This is a visibility aid - without it, white-only fixtures stay black even while they are receiving data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute les valeurs des canaux W / CW / WW à la couleur du pixel.
+
+Désactivé par défaut : MOX calcule les canaux blancs À PARTIR du RGB, il n&apos;existe donc pas de retour unique et exact. C&apos;est une aide visuelle : sans elle, les projecteurs uniquement blancs restent noirs même lorsqu&apos;ils reçoivent des données.</translation>
     </message>
     <message>
         <source>Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Axes</translation>
     </message>
     <message>
         <source>Show the red / green / blue X-Y-Z arrows at the origin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les flèches X-Y-Z rouge / vert / bleu à l&apos;origine.</translation>
     </message>
     <message>
         <source>Fast draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracé rapide</translation>
     </message>
     <message>
         <source>Draw LEDs as squares without antialiasing.
 
 Roughly 5x faster on large patches - use it when the 3D view cannot keep up with playback. Pixels look square instead of round.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessine les LED en carrés, sans anticrénelage.
+
+Environ 5x plus rapide sur les grands patchs : à utiliser quand la vue 3D ne suit pas la lecture. Les pixels apparaissent carrés au lieu de ronds.</translation>
     </message>
     <message>
         <source>Auto orbit</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbite auto</translation>
     </message>
     <message>
         <source>Swing the model through +-45 degrees on two axes.
 Touching the view with the mouse stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait pivoter le modèle de +-45 degrés sur deux axes.
+Toucher la vue avec la souris l&apos;arrête.</translation>
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>Face</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Back to the default angle and distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir à l&apos;angle et à la distance par défaut</translation>
     </message>
     <message>
         <source>2D</source>
-        <translation type="unfinished"></translation>
+        <translation>2D</translation>
     </message>
     <message>
         <source>3D</source>
-        <translation type="unfinished"></translation>
+        <translation>3D</translation>
     </message>
     <message>
         <source>Folder holding the GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier contenant les enregistrements GPS-Sync</translation>
     </message>
     <message>
         <source>Load a patch first - the group list comes from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargez d&apos;abord un patch : la liste des groupes en provient.</translation>
     </message>
     <message>
         <source>No file in &quot;%1&quot; matches a group name. GPS-Sync recordings are named &lt;name&gt;_&lt;Group&gt;.tpx.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier de « %1 » ne correspond à un nom de groupe. Les enregistrements GPS-Sync sont nommés &lt;nom&gt;_&lt;Groupe&gt;.tpx.</translation>
     </message>
     <message>
         <source>Matched all %1 group(s). Press Load set to verify them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 groupe(s) ont tous été associés. Cliquez sur Charger le jeu pour les vérifier.</translation>
     </message>
     <message>
         <source>Matched %1 of %2 group(s). Fill the rest by hand, then press Load set.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s) sur %2 associé(s). Complétez le reste à la main, puis cliquez sur Charger le jeu.</translation>
     </message>
     <message>
         <source>The file list changed - press Load set to verify it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste des fichiers a changé : cliquez sur Charger le jeu pour la vérifier à nouveau.</translation>
     </message>
     <message>
         <source>Load a patch first - a GPS-Sync set is one recording per group, and the group list comes from the patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargez d&apos;abord un patch : un jeu GPS-Sync comporte un enregistrement par groupe, et la liste des groupes provient du patch.</translation>
     </message>
     <message>
         <source>GPS Mirra set: %1 recording(s), %2 frames each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu GPS Mirra : %1 enregistrement(s), %2 images chacun.</translation>
     </message>
     <message>
         <source>Could not listen on %1:%2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écouter sur %1:%2 : %3</translation>
     </message>
     <message>
         <source>Art-Net node active on %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœud Art-Net actif sur %1.</translation>
     </message>
     <message>
         <source>Listening on %1:%2, advertising %3 universe(s).</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoute sur %1:%2, %3 univers annoncé(s).</translation>
     </message>
     <message>
         <source>Not listening.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d&apos;écoute en cours.</translation>
     </message>
     <message>
         <source>Start listening first - there is no node to announce.</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrez d&apos;abord l&apos;écoute : il n&apos;y a aucun nœud à annoncer.</translation>
     </message>
     <message>
         <source>ArtPollReply broadcast.</source>
-        <translation type="unfinished"></translation>
+        <translation>ArtPollReply diffusé.</translation>
     </message>
     <message>
         <source>Stop listening first - the address cannot change while the node is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtez d&apos;abord l&apos;écoute : l&apos;adresse ne peut pas changer pendant que le nœud fonctionne.</translation>
     </message>
     <message>
         <source>Network interfaces refreshed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interfaces réseau actualisées.</translation>
     </message>
     <message>
         <source>Start listening first - there is nothing to record yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrez d&apos;abord l&apos;écoute : il n&apos;y a encore rien à enregistrer.</translation>
     </message>
     <message>
         <source>Pick a folder and a file name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d&apos;abord un dossier et un nom de fichier.</translation>
     </message>
     <message>
         <source>Could not write %1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
     </message>
     <message>
         <source>Appending to %1 (%2 KB already in the file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout à la suite de %1 (%2 KB déjà dans le fichier).</translation>
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement dans %1</translation>
     </message>
     <message>
         <source>Saved %1 frame(s), %2 record(s), %3 KB to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 image(s), %2 entrée(s), %3 KB enregistrés dans %4</translation>
     </message>
     <message>
         <source>Recording stopped: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement arrêté : %1</translation>
     </message>
     <message>
         <source>Planned for a future version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prévu pour une version future.</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>Open Patch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un patch...</translation>
     </message>
     <message>
         <source>Open Recording...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un enregistrement...</translation>
     </message>
     <message>
         <source>Open GPS-Sync Set Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier d&apos;un jeu GPS-Sync...</translation>
     </message>
     <message>
         <source>Match every group of the loaded patch with its &lt;name&gt;_&lt;Group&gt;.tpx file in a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Associe chaque groupe du patch chargé à son fichier &lt;nom&gt;_&lt;Groupe&gt;.tpx dans un dossier.</translation>
     </message>
     <message>
         <source>Recent Patches</source>
-        <translation type="unfinished"></translation>
+        <translation>Patchs récents</translation>
     </message>
     <message>
         <source>Recent Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements récents</translation>
     </message>
     <message>
         <source>Open Network Log...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un journal réseau...</translation>
     </message>
     <message>
         <source>Save Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le journal réseau</translation>
     </message>
     <message>
         <source>Save Network Log As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le journal réseau sous...</translation>
     </message>
     <message>
         <source>Save Monitor Snapshot...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une capture du moniteur...</translation>
     </message>
     <message>
         <source>Export Patch Report...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le rapport du patch...</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>Network Log...</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau...</translation>
     </message>
     <message>
         <source>Copy Monitor Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l&apos;image du moniteur</translation>
     </message>
     <message>
         <source>Interface Theme...</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème de l&apos;interface...</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences...</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>2D Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moniteur 2D</translation>
     </message>
     <message>
         <source>3D Monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Moniteur 3D</translation>
     </message>
     <message>
         <source>Fit to View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster à la vue</translation>
     </message>
     <message>
         <source>3D Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Caméra 3D</translation>
     </message>
     <message>
         <source>Reset Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser la caméra</translation>
     </message>
     <message>
         <source>Show Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les axes</translation>
     </message>
     <message>
         <source>Fast Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracé rapide</translation>
     </message>
     <message>
         <source>Auto Orbit</source>
-        <translation type="unfinished"></translation>
+        <translation>Orbite auto</translation>
     </message>
     <message>
         <source>White Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux blancs</translation>
     </message>
     <message>
         <source>Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>&amp;Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>Play / Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture / Pause</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>Rembobiner</translation>
     </message>
     <message>
         <source>Previous Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Next Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>Go to Frame...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à l&apos;image...</translation>
     </message>
     <message>
         <source>Loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle</translation>
     </message>
     <message>
         <source>GPS Mirra Set</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeu GPS Mirra</translation>
     </message>
     <message>
         <source>&amp;Broadcast</source>
-        <translation type="unfinished"></translation>
+        <translation>Diffu&amp;sion</translation>
     </message>
     <message>
         <source>Listen for Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Écouter l&apos;Art-Net</translation>
     </message>
     <message>
         <source>Record Incoming Stream</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le flux entrant</translation>
     </message>
     <message>
         <source>Announce Node Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Annoncer le nœud maintenant</translation>
     </message>
     <message>
         <source>Broadcast an ArtPollReply immediately instead of waiting for the next poll.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diffuse immédiatement un ArtPollReply au lieu d&apos;attendre le prochain ArtPoll.</translation>
     </message>
     <message>
         <source>Refresh Network Interfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les interfaces réseau</translation>
     </message>
     <message>
         <source>Node Discovery (ArtPoll Scan)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Découverte des nœuds (scan ArtPoll)...</translation>
     </message>
     <message>
         <source>Test Signal Generator...</source>
-        <translation type="unfinished"></translation>
+        <translation>Générateur de signal de test...</translation>
     </message>
     <message>
         <source>sACN (E1.31) Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée sACN (E1.31)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aide</translation>
     </message>
     <message>
         <source>Language...</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue...</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Site web</translation>
     </message>
     <message>
         <source>Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes de version</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Open Logs Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier des journaux</translation>
     </message>
     <message>
         <source>Patches that produced import warnings are kept here together with the messages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les patchs ayant produit des avertissements d&apos;importation sont conservés ici avec les messages.</translation>
     </message>
     <message>
         <source>User Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel d&apos;utilisation</translation>
     </message>
     <message>
         <source>Check for Updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour...</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>(empty)</source>
-        <translation type="unfinished"></translation>
+        <translation>(vide)</translation>
     </message>
     <message>
         <source>Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la liste</translation>
     </message>
     <message>
         <source>Open Patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un patch</translation>
     </message>
     <message>
         <source>Patches (*.tpatch *.mpz *.elm *.elmbackup);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Patchs (*.tpatch *.mpz *.elm *.elmbackup);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Open Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un enregistrement</translation>
     </message>
     <message>
         <source>Recordings (*.tpx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements (*.tpx);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Playback paused.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture en pause.</translation>
     </message>
     <message>
         <source>Go to Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à l&apos;image</translation>
     </message>
     <message>
         <source>Frame (0 - %1):</source>
-        <translation type="unfinished"></translation>
+        <translation>Image (0 - %1) :</translation>
     </message>
     <message>
         <source>Monitor image copied to the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image du moniteur copiée dans le presse-papiers.</translation>
     </message>
     <message>
         <source>Interface theme: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème de l&apos;interface : %1</translation>
     </message>
     <message>
         <source>Interface Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème de l&apos;interface</translation>
     </message>
     <message>
         <source>Theme:</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème :</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue :</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Action</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourci</translation>
     </message>
     <message>
         <source>There is no writable logs folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun dossier de journaux accessible en écriture.</translation>
     </message>
     <message>
         <source>Logs folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des journaux : %1</translation>
     </message>
     <message>
         <source>About Torvane TALU</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Torvane TALU</translation>
     </message>
     <message>
         <source>See what an LED installation shows for a stream of Art-Net DMX data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyez ce qu&apos;affiche une installation LED pour un flux de données Art-Net DMX.</translation>
     </message>
     <message>
         <source>Version %1, built %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1, compilée le %2.</translation>
     </message>
     <message>
         <source>Running on Qt %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctionne sous Qt %1.</translation>
     </message>
     <message>
         <source>This program uses:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce programme utilise :</translation>
     </message>
     <message>
         <source>Qt %1 (The Qt Company), under the GNU Lesser General Public License version 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt %1 (The Qt Company), sous licence GNU Lesser General Public License version 3.</translation>
     </message>
     <message>
         <source>zlib (Jean-loup Gailly and Mark Adler), under the zlib licence.</source>
-        <translation type="unfinished"></translation>
+        <translation>zlib (Jean-loup Gailly et Mark Adler), sous licence zlib.</translation>
     </message>
     <message>
         <source>Torvane TALU is © 2026 Torvane. All rights reserved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU est © 2026 Torvane. Tous droits réservés.</translation>
     </message>
     <message>
         <source>About Qt</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Qt</translation>
     </message>
     <message>
         <source>no writable logs folder</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun dossier de journaux accessible en écriture</translation>
     </message>
     <message>
         <source>Patch could not be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger le patch.</translation>
     </message>
     <message>
         <source>A copy of the file and this message was saved to:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Une copie du fichier et de ce message a été enregistrée dans :
+%1</translation>
     </message>
     <message>
         <source>Patch Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de patch</translation>
     </message>
     <message>
         <source>No recording loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement chargé.</translation>
     </message>
     <message>
         <source>This patch has no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce patch ne contient aucun groupe.</translation>
     </message>
     <message>
         <source>No set loaded. Give every group its own GPS-Sync recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun jeu chargé. Attribuez à chaque groupe son propre enregistrement GPS-Sync.</translation>
     </message>
     <message>
         <source>Patch loaded but contains no drawable pixels. Check that the patch was saved from the Patch Editor with its layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Patch chargé, mais il ne contient aucun pixel affichable. Vérifiez que le patch a été enregistré depuis le Patch Editor avec sa disposition.</translation>
     </message>
     <message>
         <source>Loaded %1 in %2 ms.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chargé en %2 ms.</translation>
     </message>
     <message>
         <source>Loaded %1 in %2 ms with %3 warning(s) - see the Patch tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chargé en %2 ms avec %3 avertissement(s) : voir l&apos;onglet Patch.</translation>
     </message>
     <message>
         <source>%1 pixels drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pixels affichés.</translation>
     </message>
     <message>
         <source>A copy of the patch and its warnings is in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Une copie du patch et de ses avertissements se trouve dans %1</translation>
     </message>
     <message>
         <source>There is no set to play. Fill in the group recordings and press Load set first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun jeu à lire. Renseignez d&apos;abord les enregistrements des groupes et cliquez sur Charger le jeu.</translation>
     </message>
     <message>
         <source>There is no recording to play. Load a .tpx file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement à lire. Chargez d&apos;abord un fichier .tpx.</translation>
     </message>
     <message>
         <source>Nothing to play - no recording is loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à lire : aucun enregistrement n&apos;est chargé.</translation>
     </message>
     <message>
         <source>Playback controls work in Recorded playback mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les commandes de lecture fonctionnent en mode Lecture d&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Playing %1 recording(s) in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture synchrone de %1 enregistrement(s).</translation>
     </message>
     <message>
         <source>Playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture en cours.</translation>
     </message>
     <message>
         <source>Reached the end of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de l&apos;enregistrement atteinte.</translation>
     </message>
     <message>
         <source>Rewound to the first frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour à la première image.</translation>
     </message>
     <message>
         <source>%1 frames at %2 fps = %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 images à %2 fps = %3 s</translation>
     </message>
     <message>
         <source>This machine is not sustaining %1 fps (about %2 fps measured). Playback continues and drops frames to stay in real time; lower the fps yourself if you want every frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette machine ne tient pas %1 fps (environ %2 fps mesurés). La lecture continue en sautant des images pour rester en temps réel ; baissez vous-même la cadence si vous voulez voir chaque image.</translation>
     </message>
     <message>
         <source>Sustaining about %1 fps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence tenue : environ %1 fps.</translation>
     </message>
     <message>
         <source>GPS Mirra: one recording per group, all driven from one clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS Mirra : un enregistrement par groupe, tous pilotés par une seule horloge.</translation>
     </message>
     <message>
         <source>Standard Art-Net: a single recording drives the whole patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net standard : un seul enregistrement pilote tout le patch.</translation>
     </message>
     <message>
         <source>Enter a .tpx path or pick one with the ... button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un chemin .tpx ou choisissez-en un avec le bouton « ... ».</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>%1 · %2 · %3 frames · %4 s at %5 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 · %3 images · %4 s à %5 fps</translation>
     </message>
     <message>
         <source>No patch loaded - the monitor stays dark; the DMX tab shows every recorded universe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé : le moniteur reste noir ; l&apos;onglet DMX affiche chaque univers enregistré.</translation>
     </message>
     <message>
         <source>Space plays and pauses.</source>
-        <translation type="unfinished"></translation>
+        <translation>La barre d&apos;espace lance et met en pause la lecture.</translation>
     </message>
     <message>
         <source>White channel contribution off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contribution des canaux blancs désactivée.</translation>
     </message>
     <message>
         <source>This patch has no W / CW / WW channels - white contribution has nothing to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce patch n&apos;a aucun canal W / CW / WW : la contribution du blanc n&apos;a rien à ajouter.</translation>
     </message>
     <message>
         <source>%1 px with white (W %2 · CW %3 · WW %4)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px avec blanc (W %2 · CW %3 · WW %4)</translation>
     </message>
     <message>
         <source>peak white value %1 - contribution applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur de blanc max. %1 : contribution appliquée.</translation>
     </message>
     <message>
         <source>but every white value received so far is 0. MOX writes 0 to these channels unless White Channel is configured in the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>mais toutes les valeurs de blanc reçues jusqu&apos;ici valent 0. MOX écrit 0 dans ces canaux sauf si White Channel est configuré dans le projet.</translation>
     </message>
     <message>
         <source>%1 / %2 · port 0x%3 · channel %4 · Z %5 · rgb(%6, %7, %8)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2 · port 0x%3 · canal %4 · Z %5 · rgb(%6, %7, %8)</translation>
     </message>
 </context>
 <context>
     <name>MoxStyle</name>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
 </context>
 <context>
     <name>PacketLog</name>
     <message>
         <source>The capture is cut short in packet %1 (at byte %2); the %3 packets before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture s&apos;interrompt au paquet %1 (octet %2) ; les %3 paquets précédents ont été lus.</translation>
     </message>
     <message>
         <source>The capture is damaged at packet %1 (at byte %2); the %3 packets before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture est endommagée au paquet %1 (octet %2) ; les %3 paquets précédents ont été lus.</translation>
     </message>
     <message>
         <source>%1 packets were not UDP over IPv4 and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 paquets n&apos;étaient pas de l&apos;UDP sur IPv4 et ont été écartés.</translation>
     </message>
     <message>
         <source>This is not a pcap capture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier de capture pcap.</translation>
     </message>
     <message>
         <source>This is not a pcapng capture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier de capture pcapng.</translation>
     </message>
     <message>
         <source>Unexpected end of filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de filtre inattendue.</translation>
     </message>
     <message>
         <source>Missing &apos;)&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parenthèse &apos;)&apos; manquante.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur manquante après &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>Unexpected token: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément inattendu : %1</translation>
     </message>
     <message>
         <source>The filter is nested too deeply (more than %1 levels of &apos;!&apos; and &apos;(&apos;).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le filtre est trop imbriqué (plus de %1 niveaux de &apos;!&apos; et de &apos;(&apos;).</translation>
     </message>
     <message>
         <source>source or destination</source>
-        <translation type="unfinished"></translation>
+        <translation>source ou destination</translation>
     </message>
     <message>
         <source>This is neither a packet log (.tlog) nor a pcapng or pcap capture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est ni un journal de paquets (.tlog), ni une capture pcapng ou pcap.</translation>
     </message>
     <message>
         <source>Cannot open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir %1 : %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
     </message>
     <message>
         <source>Cannot write the packet log %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le journal de paquets %1 : %2</translation>
     </message>
     <message>
         <source>SEND FAILED</source>
-        <translation type="unfinished"></translation>
+        <translation>ÉCHEC D&apos;ENVOI</translation>
     </message>
     <message>
         <source>NOT SENT</source>
-        <translation type="unfinished"></translation>
+        <translation>NON ENVOYÉ</translation>
     </message>
     <message>
         <source>PARTIAL WRITE</source>
-        <translation type="unfinished"></translation>
+        <translation>ÉCRITURE PARTIELLE</translation>
     </message>
     <message>
         <source>device offline (no ArtPollReply within the liveness window)</source>
-        <translation type="unfinished"></translation>
+        <translation>appareil hors ligne (aucun ArtPollReply dans la fenêtre de présence)</translation>
     </message>
     <message>
         <source>output is closed (udpTransferOpen = false)</source>
-        <translation type="unfinished"></translation>
+        <translation>sortie fermée (udpTransferOpen = false)</translation>
     </message>
     <message>
         <source>Device Manager test broadcast is active</source>
-        <translation type="unfinished"></translation>
+        <translation>la diffusion de test du Device Manager est active</translation>
     </message>
     <message>
         <source>socket unavailable (adapter is being switched)</source>
-        <translation type="unfinished"></translation>
+        <translation>socket indisponible (changement de carte réseau en cours)</translation>
     </message>
     <message>
         <source>target address could not be resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;adresse cible n&apos;a pas pu être résolue</translation>
     </message>
     <message>
         <source>Access denied. A broadcast address was used on a socket that does not have SO_BROADCAST enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès refusé. Une adresse de broadcast a été utilisée sur un socket sans SO_BROADCAST activé.</translation>
     </message>
     <message>
         <source>The datagram is larger than the maximum the transport supports. Check the channel count and the interface MTU.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le datagramme dépasse la taille maximale prise en charge par le transport. Vérifiez le nombre de canaux et la MTU de l&apos;interface.</translation>
     </message>
     <message>
         <source>The requested address is not valid in this context. The adapter may have lost its IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;adresse demandée n&apos;est pas valide dans ce contexte. La carte réseau a peut-être perdu son adresse IP.</translation>
     </message>
     <message>
         <source>The network is down. The adapter is disconnected or disabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau est hors service. La carte réseau est déconnectée ou désactivée.</translation>
     </message>
     <message>
         <source>The network is unreachable. There is no route from the selected adapter to this destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le réseau est inaccessible. Il n&apos;existe aucune route de la carte réseau sélectionnée vers cette destination.</translation>
     </message>
     <message>
         <source>The remote host reset the connection. An earlier packet triggered an ICMP port-unreachable reply, which means nothing is listening on the destination port.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;hôte distant a réinitialisé la connexion. Un paquet précédent a déclenché une réponse ICMP port-unreachable : rien n&apos;écoute sur le port de destination.</translation>
     </message>
     <message>
         <source>No buffer space available. The send queue is full: the interface cannot drain packets as fast as they are being produced, or the destination MAC has not been resolved and datagrams are piling up waiting for ARP. Lowering the frame rate or checking the link usually resolves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus d&apos;espace tampon disponible. La file d&apos;envoi est pleine : l&apos;interface ne peut pas évacuer les paquets aussi vite qu&apos;ils sont produits, ou l&apos;adresse MAC de destination n&apos;a pas été résolue et les datagrammes s&apos;accumulent en attendant l&apos;ARP. Baisser la cadence ou vérifier la liaison résout généralement le problème.</translation>
     </message>
     <message>
         <source>The destination host is down.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;hôte de destination est hors service.</translation>
     </message>
     <message>
         <source>No route to host. ARP could not resolve the destination MAC address, so the frame was never built. This is the usual cause when nothing appears on the wire at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune route vers l&apos;hôte. L&apos;ARP n&apos;a pas pu résoudre l&apos;adresse MAC de destination, la trame n&apos;a donc jamais été construite. C&apos;est la cause habituelle quand rien n&apos;apparaît sur le câble.</translation>
     </message>
     <message>
         <source>Cannot write the capture file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le fichier de capture : %1</translation>
     </message>
     <message>
         <source>This is not a packet log file (.tlog).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier journal de paquets (.tlog).</translation>
     </message>
     <message>
         <source>The packet log is version %1 with %2-byte records; this program reads version 1 with 296-byte records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le journal de paquets est en version %1 avec des entrées de %2 octets ; ce programme lit la version 1 avec des entrées de 296 octets.</translation>
     </message>
     <message>
         <source>The packet log&apos;s header is cut short.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;en-tête du journal de paquets est tronqué.</translation>
     </message>
     <message>
         <source>Record %1 (at byte %2) is damaged; the %3 records before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;entrée %1 (octet %2) est endommagée ; les %3 entrées précédentes ont été lues.</translation>
     </message>
     <message>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le journal de paquets s&apos;interrompt à l&apos;entrée %1 (octet %2) ; les %3 entrées précédentes ont été lues.</translation>
     </message>
 </context>
 <context>
     <name>PatchBar</name>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé.</translation>
     </message>
     <message>
         <source>Patch File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de patch</translation>
     </message>
     <message>
         <source>Path to a patch file (.tpatch, .mpz, .elm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin d&apos;un fichier de patch (.tpatch, .mpz, .elm)</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for a patch file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier de patch</translation>
     </message>
     <message>
         <source>Patch file path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin du fichier de patch</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Load the patch and build the monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger le patch et construire le moniteur</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement...</translation>
     </message>
     <message>
         <source>Upload</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger</translation>
     </message>
     <message>
         <source>Enter a patch path or pick one with the ... button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le chemin d&apos;un patch ou choisissez-en un avec le bouton « ... ».</translation>
     </message>
     <message>
         <source>Select Patch File</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier de patch</translation>
     </message>
     <message>
         <source>Patch Files (*.tpatch *.mpz *.elm);;Torvane MOX Patch (*.tpatch);;MADRIX 5 Patch (*.mpz);;ENTTEC ELM Project (*.elm);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de patch (*.tpatch *.mpz *.elm);;Patch Torvane MOX (*.tpatch);;Patch MADRIX 5 (*.mpz);;Projet ENTTEC ELM (*.elm);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>PatchSummaryPanel</name>
     <message>
         <source>Patch Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé du patch</translation>
     </message>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé.</translation>
     </message>
     <message>
         <source>Universes</source>
-        <translation type="unfinished"></translation>
+        <translation>Univers</translation>
     </message>
     <message>
         <source>Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to see its structure, universe list and channel ranges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargez un patch (.tpatch, MADRIX .mpz ou ELM .elm) pour voir sa structure, la liste de ses univers et ses plages de canaux.</translation>
     </message>
     <message>
         <source>device %1</source>
-        <translation type="unfinished"></translation>
+        <translation>appareil %1</translation>
     </message>
     <message>
         <source>Device #%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil n° %1</translation>
     </message>
     <message>
         <source>format %1</source>
-        <translation type="unfinished"></translation>
+        <translation>format %1</translation>
     </message>
     <message>
         <source>imported from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>importé depuis %1</translation>
     </message>
     <message>
         <source>(unnamed project)</source>
-        <translation type="unfinished"></translation>
+        <translation>(projet sans nom)</translation>
     </message>
     <message>
         <source>%1 ch limit</source>
-        <translation type="unfinished"></translation>
+        <translation>limite de %1 canaux</translation>
     </message>
     <message>
         <source>no white channels</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun canal blanc</translation>
     </message>
     <message>
         <source>%1 px with white (W %2 · CW %3 · WW %4)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 px avec blanc (W %2 · CW %3 · WW %4)</translation>
     </message>
     <message>
         <source>%1 groups · %2 universes · %3 fixtures</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupes · %2 univers · %3 projecteurs</translation>
     </message>
     <message>
         <source>%1 pixels (%2 drawable) · %3 kinetics</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pixels (%2 affichables) · %3 cinétiques</translation>
     </message>
     <message>
         <source>Art-Net: MADRIX universe N arrives here as Port-Address N-1. In the MADRIX Device Manager, set the Universe of this tester&apos;s &quot;BindIdx N&quot; row to N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net : l&apos;univers MADRIX N arrive ici en Port-Address N-1. Dans le Device Manager de MADRIX, réglez l&apos;Universe de la ligne « BindIdx N » de ce testeur sur N.</translation>
     </message>
     <message>
         <source>Art-Net: the universes are taken from the ELM project as they are (ELM universe = Port-Address).</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net : les univers sont repris tels quels du projet ELM (univers ELM = Port-Address).</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements</translation>
     </message>
 </context>
 <context>
     <name>PixelTexts</name>
     <message>
         <source>%1 @ %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 @ %2</translation>
     </message>
     <message>
         <source>Fixture</source>
-        <translation type="unfinished"></translation>
+        <translation>Projecteur</translation>
     </message>
     <message>
         <source>Group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe : %1</translation>
     </message>
     <message>
         <source>Torvoverse: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvoverse : %1</translation>
     </message>
     <message>
         <source>Port address: 0x%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Port-Address : 0x%1</translation>
     </message>
     <message>
         <source>Start channel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal de départ : %1</translation>
     </message>
     <message>
         <source>Slots: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux : %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
 </context>
 <context>
     <name>PlaybackPanel</name>
     <message>
         <source>Path to a .tpx recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin d&apos;un enregistrement .tpx</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Browse for a .tpx recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un enregistrement .tpx</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger</translation>
     </message>
     <message>
         <source>Stop and return to the first frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et revenir à la première image</translation>
     </message>
     <message>
         <source>Frames are presented at exactly this rate.
 The timestamp stored in the file is ignored - its scale is not reliable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sont lues exactement à cette cadence.
+L&apos;horodatage stocké dans le fichier est ignoré : son échelle n&apos;est pas fiable.</translation>
     </message>
     <message>
         <source>Loop playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture en boucle</translation>
     </message>
     <message>
         <source>Play the recording end to end, over and over.
 This is how you check whether a period-based recording loops seamlessly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit l&apos;enregistrement du début à la fin, encore et encore.
+C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique boucle sans raccord visible.</translation>
     </message>
     <message>
         <source>Frame %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Image %1 / %2</translation>
     </message>
     <message>
         <source>Select Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un enregistrement</translation>
     </message>
     <message>
         <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement Torvane (*.tpx);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>PlaybackTransport</name>
     <message>
         <source>Measured %1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps mesurés</translation>
     </message>
     <message>
         <source>%1 frame(s) dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 image(s) sautée(s)</translation>
     </message>
     <message>
         <source>%1 ms/frame (max %2 fps)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms/image (max. %2 fps)</translation>
     </message>
     <message>
         <source>%1 ms/frame</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms/image</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Rewind</source>
-        <translation type="unfinished"></translation>
+        <translation>Rembobiner</translation>
     </message>
     <message>
         <source>Frame rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
     <message>
         <source> fps</source>
-        <translation type="unfinished"></translation>
+        <translation> fps</translation>
     </message>
     <message>
         <source>Playback position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de lecture</translation>
     </message>
 </context>
 <context>
     <name>QFile</name>
     <message>
         <source>Is a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Est un dossier</translation>
     </message>
 </context>
 <context>
     <name>RecordingWriter</name>
     <message>
         <source>The file was removed or renamed while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été supprimé ou renommé pendant l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le fichier.</translation>
     </message>
 </context>
 <context>
     <name>TPatch</name>
     <message>
         <source>the &lt;console&gt; root element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;élément racine &lt;console&gt; est absent</translation>
     </message>
     <message>
         <source>the document has no root element</source>
-        <translation type="unfinished"></translation>
+        <translation>le document n&apos;a pas d&apos;élément racine</translation>
     </message>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ligne %2)</translation>
     </message>
     <message>
         <source>%1 fixture(s) use 16-bit LED types (%2); the monitor shows the high byte of each color only.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) utilisent des types de LED 16 bits (%2) ; le moniteur n&apos;affiche que l&apos;octet de poids fort de chaque couleur.</translation>
     </message>
     <message>
         <source>Color channels the tester cannot show yet were ignored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les canaux de couleur que le testeur ne sait pas encore afficher ont été ignorés : %1</translation>
     </message>
     <message>
         <source>%1 fixture(s) have a pixel split across a universe boundary; its channels in the next universe are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) ont un pixel à cheval sur deux univers ; ses canaux dans l&apos;univers suivant ne sont pas affichés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) dépassent le canal DMX 512 de leur univers ; les canaux au-delà de 512 ne sont pas affichés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) output %2 rather than Art-Net and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) sortent en %2 et non en Art-Net, et ont été ignorés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) use LED types the tester does not know (%2) and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) utilisent des types de LED inconnus du testeur (%2) et ont été ignorés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) utilisent un univers qui ne tient pas dans un Port-Address Art-Net et ont été ignorés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) are incomplete in the file and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) sont incomplets dans le fichier et ont été ignorés.</translation>
     </message>
     <message>
         <source>%1 fixture(s) were skipped: the project has more than %2 LEDs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) ont été ignorés : le projet compte plus de %2 LED.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a readable ELM project: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un projet ELM lisible : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no DMX fixtures that can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne contient aucun projecteur DMX affichable.</translation>
     </message>
     <message>
         <source>zlib could not be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d&apos;initialiser zlib</translation>
     </message>
     <message>
         <source>the unpacked data is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>les données décompressées sont trop volumineuses</translation>
     </message>
     <message>
         <source>the file is truncated</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est tronqué</translation>
     </message>
     <message>
         <source>zlib error %1</source>
-        <translation type="unfinished"></translation>
+        <translation>erreur zlib %1</translation>
     </message>
     <message>
         <source>Error:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur :</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements :</translation>
     </message>
     <message>
         <source>the &lt;madrix_patch&gt; root element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;élément racine &lt;madrix_patch&gt; est absent</translation>
     </message>
     <message>
         <source>the &lt;fixture_list&gt; element is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;élément &lt;fixture_list&gt; est absent</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a readable MADRIX patch: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un patch MADRIX lisible : %2</translation>
     </message>
     <message>
         <source>Some MADRIX fields are not supported yet and were ignored: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains champs MADRIX ne sont pas encore pris en charge et ont été ignorés : %1</translation>
     </message>
     <message>
         <source>%1 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were placed in one group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s) de projecteurs MADRIX trouvé(s), mais les groupes ne sont pas encore importés ; tous les projecteurs ont été placés dans un seul groupe.</translation>
     </message>
     <message>
         <source>%1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified against MADRIX yet. Check them on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) multipixel pivoté(s) : la disposition des pixels après rotation n&apos;a pas encore été vérifiée par rapport à MADRIX. Contrôlez-les sur le moniteur.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first 6 are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) ont des pixels dont les canaux de couleur s&apos;étendent sur plus de 6 canaux DMX ; seuls les 6 premiers sont affichés.</translation>
     </message>
     <message>
         <source>%1 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches Art-Net.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) DVI ont été ignorés : ils n&apos;ont pas d&apos;adresse DMX, donc rien d&apos;eux n&apos;arrive en Art-Net.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have no color channel the tester can show and were skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) n&apos;ont aucun canal de couleur affichable par le testeur et ont été ignorés.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was saved by %2 (file version %3), which this importer has not been checked against. Verify the result on the monitor.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été enregistré par %2 (version de fichier %3), avec laquelle cet importateur n&apos;a pas été vérifié. Contrôlez le résultat sur le moniteur.</translation>
     </message>
     <message>
         <source>Could not open &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir « %1 » : %2</translation>
     </message>
     <message>
         <source>Device #%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil n° %1</translation>
     </message>
     <message>
         <source>%1 fixtures overlap on %2 screen position(s) - only the topmost one is visible. Use the group filter to isolate a torvoverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteurs se superposent sur %2 position(s) à l&apos;écran : seul celui du dessus est visible. Utilisez le filtre de groupes pour isoler un torvoverse.</translation>
     </message>
     <message>
         <source>Universe numbers above 15 are truncated to 4 bits on the wire (Art-Net PortAddress). Affected universes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les numéros d&apos;univers supérieurs à 15 sont tronqués à 4 bits sur le réseau (PortAddress Art-Net). Univers concernés : %1</translation>
     </message>
     <message>
         <source>%1 port address(es) are used by more than one torvoverse (%2). Recorded playback can still tell them apart by frame order, but a live capture at a single IP will only see one device&apos;s data.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Port-Address sont utilisés par plusieurs torvoverses (%2). La lecture d&apos;enregistrement peut encore les distinguer grâce à l&apos;ordre dans l&apos;image, mais une capture en direct sur une seule IP ne verra que les données d&apos;un seul appareil.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a valid .tpatch file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un fichier .tpatch valide : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne contient aucun groupe.</translation>
     </message>
     <message>
         <source>%1 fixture(s) have no usable scene layout and will not be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 projecteur(s) n&apos;ont pas de disposition de scène utilisable et ne seront pas affichés.</translation>
     </message>
     <message>
         <source>(+%1 more)</source>
-        <translation type="unfinished"></translation>
+        <translation>(+%1 autres)</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder, not a recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est un dossier, pas un enregistrement.</translation>
     </message>
     <message>
         <source>All %1 file(s) carry the %2-byte GPS metadata block</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 fichier(s) contiennent tous le bloc de métadonnées GPS de %2 octets</translation>
     </message>
     <message>
         <source>%1 file(s) are not GPS-Sync recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichier(s) ne sont pas des enregistrements GPS-Sync</translation>
     </message>
     <message>
         <source>%1 - these files begin directly with an Art-Net packet, with no GPS metadata block in front of it. They were recorded with GPS Sync Compatible Record OFF and belong in the Standard Art-Net tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ces fichiers commencent directement par un paquet Art-Net, sans bloc de métadonnées GPS devant. Ils ont été enregistrés avec GPS Sync Compatible Record désactivé et relèvent de l&apos;onglet Art-Net standard.</translation>
     </message>
     <message>
         <source>Patch has no drawable universes to compare against</source>
-        <translation type="unfinished"></translation>
+        <translation>Le patch n&apos;a aucun univers affichable pour comparaison</translation>
     </message>
     <message>
         <source>The recordings will still play, but nothing verifies that their universe layout matches this patch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les enregistrements seront tout de même lus, mais rien ne vérifie que leur organisation en univers correspond à ce patch.</translation>
     </message>
     <message>
         <source>%1: file has %2, patch expects %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le fichier en contient %2, le patch en attend %3</translation>
     </message>
     <message>
         <source>Universe count per frame matches the patch in every group</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre d&apos;univers par image correspond au patch dans chaque groupe</translation>
     </message>
     <message>
         <source>Universe count per frame does not match the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre d&apos;univers par image ne correspond pas au patch</translation>
     </message>
     <message>
         <source>%1. The recording was made from a different patch, or a file is assigned to the wrong group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. L&apos;enregistrement a été réalisé avec un autre patch, ou un fichier est attribué au mauvais groupe.</translation>
     </message>
     <message>
         <source>%1 (record %2 is universe %3, patch expects %4; expected order %5)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (l&apos;entrée %2 est l&apos;univers %3, le patch attend %4 ; ordre attendu %5)</translation>
     </message>
     <message>
         <source>Record order inside a frame matches the patch in every group</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ordre des entrées dans une image correspond au patch dans chaque groupe</translation>
     </message>
     <message>
         <source>Record order inside a frame does not match the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ordre des entrées dans une image ne correspond pas au patch</translation>
     </message>
     <message>
         <source>%1. Every pixel still lights up, but on the wrong torvoverse - this is the failure that looks correct at a glance. Note: MOX writes the universe field of a GPS record as (subNet&lt;&lt;8)|universe, while the wire uses the 15-bit PortAddress; the two only differ when a universe number is above 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Chaque pixel s&apos;allume quand même, mais sur le mauvais torvoverse : c&apos;est l&apos;erreur qui paraît correcte au premier coup d&apos;œil. Remarque : MOX écrit le champ universe d&apos;une entrée GPS sous la forme (subNet&lt;&lt;8)|universe, alors que le réseau utilise le PortAddress sur 15 bits ; les deux ne diffèrent que si un numéro d&apos;univers dépasse 15.</translation>
     </message>
     <message>
         <source>%1: header says %2 bytes per frame, the file measures %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : l&apos;en-tête indique %2 octets par image, le fichier en mesure %3</translation>
     </message>
     <message>
         <source>%1: universeByteLength sums to %2 but frameByteSize says %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : la somme des universeByteLength vaut %2 mais frameByteSize indique %3</translation>
     </message>
     <message>
         <source>Frame byte size in the header matches the packets on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille d&apos;image en octets dans l&apos;en-tête correspond aux paquets sur le disque</translation>
     </message>
     <message>
         <source>Frame byte size in the header is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>La taille d&apos;image en octets dans l&apos;en-tête est fausse</translation>
     </message>
     <message>
         <source>%1. A GPS device seeks by frameByteSize; a wrong value makes it land in the middle of a packet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Un appareil GPS se positionne d&apos;après frameByteSize ; une valeur fausse le fait tomber au milieu d&apos;un paquet.</translation>
     </message>
     <message>
         <source>%1: %2 usable byte(s), %3 expected for %4 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 octet(s) utilisable(s), %3 attendus pour %4 image(s)</translation>
     </message>
     <message>
         <source>Every frame occupies exactly the same number of bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque image occupe exactement le même nombre d&apos;octets</translation>
     </message>
     <message>
         <source>Some files carry bytes that do not form a whole frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains fichiers contiennent des octets qui ne forment pas une image entière</translation>
     </message>
     <message>
         <source>%1. The recording was cut short, or the universe lengths changed while it was running.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. L&apos;enregistrement a été interrompu, ou la longueur des univers a changé en cours d&apos;enregistrement.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>All %1 recording(s) are exactly %2 frame(s) long</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 enregistrement(s) durent tous exactement %2 image(s)</translation>
     </message>
     <message>
         <source>Recordings differ in length by %1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>La longueur des enregistrements diffère de %1 image(s)</translation>
     </message>
     <message>
         <source>%1. GPS devices stay locked by frame index, so the show falls apart as soon as the shortest file ends. Playback here stops at frame %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Les appareils GPS restent calés sur l&apos;index d&apos;image : le show se désagrège dès que le fichier le plus court se termine. Ici, la lecture s&apos;arrête à l&apos;image %2.</translation>
     </message>
     <message>
         <source>%1: header says %2, file holds %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : l&apos;en-tête indique %2, le fichier en contient %3</translation>
     </message>
     <message>
         <source>Frame count in the header matches the packets on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre d&apos;images dans l&apos;en-tête correspond aux paquets sur le disque</translation>
     </message>
     <message>
         <source>Frame count in the header is out of date</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre d&apos;images dans l&apos;en-tête n&apos;est pas à jour</translation>
     </message>
     <message>
         <source>%1. MOX writes this number when the recording is stopped; a zero or stale value means the recording was never closed properly.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. MOX écrit ce nombre à l&apos;arrêt de l&apos;enregistrement ; une valeur nulle ou périmée signifie que l&apos;enregistrement n&apos;a jamais été correctement fermé.</translation>
     </message>
     <message>
         <source>Timestamps are in lockstep across all %1 file(s), over all %2 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Les horodatages sont synchrones dans les %1 fichier(s), sur l&apos;ensemble des %2 image(s)</translation>
     </message>
     <message>
         <source>Timestamps vary by up to %1 s inside a single frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Les horodatages varient jusqu&apos;à %1 s au sein d&apos;une même image</translation>
     </message>
     <message>
         <source>Worst in group %1. All records of one frame are written in the same pass and should carry one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pire cas dans le groupe %1. Toutes les entrées d&apos;une image sont écrites en une seule passe et devraient porter la même valeur.</translation>
     </message>
     <message>
         <source>Timestamps drift by up to %1 s between files</source>
-        <translation type="unfinished"></translation>
+        <translation>Les horodatages dérivent jusqu&apos;à %1 s entre les fichiers</translation>
     </message>
     <message>
         <source>First seen at frame %1. MOX stamps every group with the same value in a given frame, so a difference means these files are not from one recording session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Constaté pour la première fois à l&apos;image %1. MOX horodate chaque groupe avec la même valeur dans une image donnée : une différence signifie que ces fichiers ne proviennent pas d&apos;une même session d&apos;enregistrement.</translation>
     </message>
     <message>
         <source>The set carries %1 universe(s); the patch has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jeu contient %1 univers ; le patch en compte %2</translation>
     </message>
     <message>
         <source>Pixels with no record behind them stay dark for the whole run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pixels sans entrée correspondante restent noirs pendant toute la lecture.</translation>
     </message>
     <message>
         <source>The set covers all %1 torvoverse(s) in the patch</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jeu couvre les %1 torvoverse(s) du patch</translation>
     </message>
     <message>
         <source>Two or more groups share a universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs groupes partagent un univers</translation>
     </message>
     <message>
         <source>Universe(s) %1. Two files write the same pixels and the last one drawn wins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Univers %1. Deux fichiers écrivent les mêmes pixels et le dernier affiché l&apos;emporte.</translation>
     </message>
     <message>
         <source>No patch loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé</translation>
     </message>
     <message>
         <source>A GPS-Sync set is defined by the patch: one recording per group. Load a .tpatch first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un jeu GPS-Sync est défini par le patch : un enregistrement par groupe. Chargez d&apos;abord un .tpatch.</translation>
     </message>
     <message>
         <source>No patch loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun patch chargé.</translation>
     </message>
     <message>
         <source>%1 of %2 group(s) have no recording</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s) sur %2 sans enregistrement</translation>
     </message>
     <message>
         <source>A GPS-Sync show is only complete when every group has its own file. Missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Un show GPS-Sync n&apos;est complet que si chaque groupe a son propre fichier. Manquant(s) : %1</translation>
     </message>
     <message>
         <source>%1 recording(s) still missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistrement(s) encore manquant(s).</translation>
     </message>
     <message>
         <source>%1 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 = %2</translation>
     </message>
     <message>
         <source>%1 group(s), %1 recording(s) supplied</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s), %1 enregistrement(s) fourni(s)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>The same file is assigned to more than one group</source>
-        <translation type="unfinished"></translation>
+        <translation>Le même fichier est attribué à plusieurs groupes</translation>
     </message>
     <message>
         <source>%1. Each group has its own recording; reusing one file makes two groups play the same animation.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Chaque groupe a son propre enregistrement ; réutiliser un fichier fait jouer la même animation à deux groupes.</translation>
     </message>
     <message>
         <source>%1: file cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : fichier illisible</translation>
     </message>
     <message>
         <source>%1 of %2 file(s) could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichier(s) sur %2 illisible(s).</translation>
     </message>
     <message>
         <source>The set holds no complete frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jeu ne contient aucune image complète.</translation>
     </message>
     <message>
         <source>%1 group(s) - %2 frames - %3 failure(s), %4 warning(s); playback is enabled so you can see them</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s) - %2 images - %3 échec(s), %4 avertissement(s) ; la lecture reste possible pour que vous puissiez les voir</translation>
     </message>
     <message>
         <source>%1 group(s) - %2 frames - structure and sync verified</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 groupe(s) - %2 images - structure et synchro vérifiées</translation>
     </message>
     <message>
         <source>&quot;%1&quot; contains no usable DMX records.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne contient aucune entrée DMX utilisable.</translation>
     </message>
     <message>
         <source>Stopped parsing at byte %1 of %2 - the file is truncated or contains a record this reader does not understand. %3 record(s) were usable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse arrêtée à l&apos;octet %1 sur %2 : le fichier est tronqué ou contient une entrée que ce lecteur ne comprend pas. %3 entrée(s) utilisable(s).</translation>
     </message>
     <message>
         <source>This recording does not match the loaded patch: the patch expects %1 record(s) per frame in a fixed order, but the file repeats every %2. Playback will follow the file and map records by universe number, which cannot separate devices that share a universe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet enregistrement ne correspond pas au patch chargé : le patch attend %1 entrée(s) par image dans un ordre fixe, mais le fichier se répète toutes les %2. La lecture suivra le fichier et associera les entrées par numéro d&apos;univers, ce qui ne permet pas de distinguer des appareils partageant un univers.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too small to contain a single record.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est trop petit pour contenir une seule entrée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not start with an Art-Net or KEL DMX record. It is not a Torvane recording, or it is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne commence pas par une entrée DMX Art-Net ou KEL. Ce n&apos;est pas un enregistrement Torvane, ou il est endommagé.</translation>
     </message>
     <message>
         <source>GPS-Sync recording: this file holds one group&apos;s universes only. Records are mapped by universe number, so pixels outside that group stay dark. Use the GPS Mirra tab to play a full set of group files together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement GPS-Sync : ce fichier ne contient que les univers d&apos;un seul groupe. Les entrées sont associées par numéro d&apos;univers, les pixels hors de ce groupe restent donc noirs. Utilisez l&apos;onglet GPS Mirra pour lire ensemble un jeu complet de fichiers de groupe.</translation>
     </message>
     <message>
         <source>%1 trailing record(s) do not form a complete frame and are ignored.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entrée(s) finale(s) ne forment pas une image complète et sont ignorées.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not contain a complete frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne contient aucune image complète.</translation>
     </message>
     <message>
         <source>Art-Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Art-Net</translation>
     </message>
     <message>
         <source>KEL (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL (%1)</translation>
     </message>
     <message>
         <source>KEL</source>
-        <translation type="unfinished"></translation>
+        <translation>KEL</translation>
     </message>
     <message>
         <source> GPS-Sync</source>
-        <translation type="unfinished"></translation>
+        <translation> GPS-Sync</translation>
     </message>
 </context>
 <context>
     <name>UniverseTableModel</name>
     <message>
         <source>port</source>
-        <translation type="unfinished"></translation>
+        <translation>port</translation>
     </message>
     <message>
         <source>net/sub/uni</source>
-        <translation type="unfinished"></translation>
+        <translation>net/sub/uni</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>pixels</translation>
     </message>
     <message>
         <source>channels</source>
-        <translation type="unfinished"></translation>
+        <translation>canaux</translation>
     </message>
     <message>
         <source>target IP</source>
-        <translation type="unfinished"></translation>
+        <translation>IP cible</translation>
     </message>
 </context>
 <context>
     <name>UpdateController</name>
     <message>
         <source>Software Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour du logiciel</translation>
     </message>
     <message>
         <source>Check for updates automatically (once a day)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les mises à jour (une fois par jour)</translation>
     </message>
     <message>
         <source>Could not check for updates: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher les mises à jour : %1</translation>
     </message>
     <message>
         <source>Torvane TALU %1 is the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU %1 est la dernière version.</translation>
     </message>
     <message>
         <source>Torvane TALU %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Torvane TALU %1 est disponible. Vous avez la version %2.</translation>
     </message>
     <message>
         <source>Download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger...</translation>
     </message>
     <message>
         <source>Ignore This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer cette version</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
 </context>
 </TS>
