@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
 
@@ -25,6 +26,14 @@ QStringList Translator::languageIds()
 
 QString Translator::languageName(const QString &id)
 {
+    // The languages we ship, as their speakers write them (the locale's own
+    // names carry a country: "American English", "español de España").
+    static const QHash<QString, QString> names{{QStringLiteral("en"), QStringLiteral("English")},
+                                               {QStringLiteral("de"), QStringLiteral("Deutsch")},
+                                               {QStringLiteral("es"), QStringLiteral("Español")},
+                                               {QStringLiteral("fr"), QStringLiteral("Français")}};
+    if (const auto it = names.constFind(id); it != names.cend())
+        return *it;
     const QString name = QLocale(id).nativeLanguageName();
     return name.isEmpty() ? id : name.left(1).toUpper() + name.mid(1);
 }

@@ -3,15 +3,18 @@
 // table, frame stepping, the entries that mirror the monitor bar, snapshots,
 // the help entries and files dropped on the window.
 #include "app/updater.h"
+#include "i18n/translator.h"
 #include "panels/playbackpanel.h"
 #include "recording/playbackclock.h"
 #include "recording/recording.h"
+#include "style/moxstyle.h"
 #include "talu_version.h"
 #include "windowdriver.h"
 
 #include <QClipboard>
 #include <QDropEvent>
 #include <QInputDialog>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QStandardPaths>
@@ -141,6 +144,7 @@ private slots:
     void snapshotProposal();
     void helpEntriesShowWhatTheySay();
     void droppedFilesLoad();
+    void themeAndLanguageDialogs();
 };
 
 void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
@@ -414,6 +418,59 @@ void TestMainWindowMenus::droppedFilesLoad()
     QVERIFY2(!status(w).contains(QStringLiteral("No patch loaded")), qPrintable(status(w)));
     QCOMPARE(w.findChild<PatchBar *>()->path(), kDemoPatch);
     QCOMPARE(w.findChild<PlaybackPanel *>()->path(), kDemoRecording);
+}
+
+void TestMainWindowMenus::themeAndLanguageDialogs()
+{
+    MoxStyle style;
+    style.install(*qApp);
+    MainWindow w(&style);
+    const QColor dark = qApp->palette().color(QPalette::Window);
+
+    // Selecting previews at once; Cancel goes back to the theme in force.
+    QColor previewed;
+    onNextModal([&previewed](QWidget *modal) {
+        auto *list = modal->findChild<QListWidget *>(QStringLiteral("themeList"));
+        QStringList names;
+        for (int i = 0; i < list->count(); ++i)
+            names << list->item(i)->text();
+        QCOMPARE(names, (QStringList{"Dark", "Light", "High contrast", "Dim red"}));
+        list->setCurrentRow(1);
+        previewed = qApp->palette().color(QPalette::Window);
+        qobject_cast<QDialog *>(modal)->reject();
+    });
+    w.menuAction("Interface Theme...")->trigger();
+    QVERIFY(previewed.lightness() > dark.lightness());
+    QCOMPARE(qApp->palette().color(QPalette::Window), dark);
+    QVERIFY(!openSettings()->contains(SettingsKey::theme));
+
+    onNextModal([](QWidget *modal) {
+        modal->findChild<QListWidget *>(QStringLiteral("themeList"))->setCurrentRow(3);
+        qobject_cast<QDialog *>(modal)->accept();
+    });
+    w.menuAction("Interface Theme...")->trigger();
+    QCOMPARE(style.currentThemeId(), QStringLiteral("dimred"));
+    QCOMPARE(openSettings()->value(SettingsKey::theme).toString(), QStringLiteral("dimred"));
+    QCOMPARE(status(w), QStringLiteral("Interface theme: Dim red"));
+
+    // Languages by their own names; the choice is stored and applied.
+    Translator translator;
+    translator.install(*qApp);
+    w.setTranslator(&translator);
+    QStringList offered;
+    onNextModal([&offered](QWidget *modal) {
+        auto *dialog = qobject_cast<QInputDialog *>(modal);
+        offered = dialog->comboBoxItems();
+        dialog->setTextValue(QStringLiteral("Deutsch"));
+        dialog->accept();
+    });
+    w.menuAction("Language...")->trigger();
+    QCOMPARE(offered, (QStringList{"Deutsch", "English", "Español", "Français"}));
+    QCOMPARE(translator.currentLanguageId(), QStringLiteral("de"));
+    QCOMPARE(openSettings()->value(SettingsKey::language).toString(), QStringLiteral("de"));
+    translator.applyLanguage(QStringLiteral("en"));
+    style.applyTheme(MoxStyle::defaultThemeId());
+    style.install(*qApp);
 }
 
 QTEST_MAIN(TestMainWindowMenus)
