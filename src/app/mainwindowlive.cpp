@@ -65,11 +65,25 @@ void MainWindow::onIdentityChanged()
 
 void MainWindow::showListeningStatus(const QString &address, quint16 port, int universeCount)
 {
+    const auto listening = [address, port, universeCount] {
+        return tr("Listening on %1:%2, advertising %3 universe(s).").arg(address).arg(port).arg(universeCount);
+    };
+    // Without the privilege to raise it, Linux caps the queue at net.core.rmem_max
+    // (often 208 KB: a few milliseconds of a large show): say so while it matters.
+    const int grantedKb = m_live ? m_live->node().receiveBufferBytes() / 1024 : -1;
+    if (grantedKb < 0 || grantedKb >= ArtNetNode::kReceiveBufferBytes / 1024) {
+        m_broadcastPanel->setListenMessage(listening, 0);
+        return;
+    }
     m_broadcastPanel->setListenMessage(
-        [address, port, universeCount] {
-            return tr("Listening on %1:%2, advertising %3 universe(s).").arg(address).arg(port).arg(universeCount);
+        [listening, grantedKb] {
+            return listening() + QLatin1Char('\n')
+                   + tr("The system gives this node a receive queue of only %1 KB (%2 KB asked for): a burst "
+                        "the program cannot read at once is lost. Raise the limit (net.core.rmem_max on Linux).")
+                         .arg(grantedKb)
+                         .arg(ArtNetNode::kReceiveBufferBytes / 1024);
         },
-        0);
+        1);
 }
 
 void MainWindow::onLiveRepaint()

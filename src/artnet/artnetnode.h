@@ -54,6 +54,8 @@ public:
     void stop();
     bool isRunning() const { return m_socket != nullptr; }
     QString lastError() const { return m_lastError; }
+    // The receive queue the system granted the running node (bytes), -1 when unknown.
+    int receiveBufferBytes() const { return m_socket ? m_socket->receiveBufferBytes() : -1; }
     QHostAddress bindAddress() const { return m_bindAddress; }
     quint16 port() const { return m_port; }
 

@@ -20,6 +20,9 @@ public:
     // buffer of receiveBufferBytes. On failure errorString() says why.
     virtual bool bind(const QHostAddress &address, quint16 port, int receiveBufferBytes) = 0;
     virtual QString errorString() const = 0;
+    // The receive buffer the system granted after bind (bytes), -1 when unknown.
+    // Below what was asked for, a burst the program cannot read at once is lost.
+    virtual int receiveBufferBytes() const { return -1; }
 
     // Called whenever datagrams are waiting; the handler drains them all.
     virtual void setReadyReadHandler(std::function<void()> handler) = 0;

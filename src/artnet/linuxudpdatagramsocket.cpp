@@ -82,6 +82,11 @@ int LinuxUdpDatagramSocket::openBound(quint32 ip, quint16 port, int receiveBuffe
     // Past net.core.rmem_max only with CAP_NET_ADMIN; otherwise the capped size.
     if (::setsockopt(fd, SOL_SOCKET, SO_RCVBUFFORCE, &receiveBufferBytes, sizeof receiveBufferBytes) != 0)
         ::setsockopt(fd, SOL_SOCKET, SO_RCVBUF, &receiveBufferBytes, sizeof receiveBufferBytes);
+    // Linux reports twice the usable size (it counts its own bookkeeping).
+    int granted = 0;
+    socklen_t length = sizeof granted;
+    if (::getsockopt(fd, SOL_SOCKET, SO_RCVBUF, &granted, &length) == 0)
+        m_receiveBufferBytes = granted / 2;
     sockaddr_in local{};
     local.sin_family = AF_INET;
     local.sin_port = htons(port);

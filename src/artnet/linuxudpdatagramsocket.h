@@ -36,6 +36,7 @@ public:
 
     bool bind(const QHostAddress &address, quint16 port, int receiveBufferBytes) override;
     QString errorString() const override { return m_error; }
+    int receiveBufferBytes() const override { return m_receiveBufferBytes; }
     void setReadyReadHandler(std::function<void()> handler) override;
     bool hasPendingDatagrams() const override;
     qint64 readDatagram(char *buffer, qint64 maxSize, QHostAddress *sender, quint16 *senderPort) override;
@@ -61,6 +62,7 @@ private:
     void addBroadcastReceivers(quint32 ip, quint16 port, int receiveBufferBytes);
 
     int m_fd = -1;
+    int m_receiveBufferBytes = -1;
     // Receive-only broadcast sockets (see above), and the subnet a datagram on
     // the limited-broadcast one must come from.
     std::vector<int> m_broadcastFds;

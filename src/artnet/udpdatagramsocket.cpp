@@ -27,6 +27,7 @@ bool UdpDatagramSocket::bind(const QHostAddress &address, quint16 port, int rece
         return false;
     // QUdpSocket has no socket before bind, so the buffer is sized right after.
     m_socket.setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, QVariant(receiveBufferBytes));
+    m_receiveBufferBytes = m_socket.socketOption(QAbstractSocket::ReceiveBufferSizeSocketOption).toInt();
 #ifdef Q_OS_WIN
     // Windows reports an ICMP port-unreachable (a controller that polled us and
     // closed its socket) as an error on our next receive; that would stall the

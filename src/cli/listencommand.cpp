@@ -239,6 +239,12 @@ int runListenCommand(const QStringList &arguments)
                  .arg(shownAddress)
                  .arg(portValue)
                  .arg(advertised.size()));
+    if (const int grantedKb = node.receiveBufferBytes() / 1024;
+        grantedKb >= 0 && grantedKb < ArtNetNode::kReceiveBufferBytes / 1024)
+        printErr(QStringLiteral("talu-cli listen: the system gives this node a receive queue of only %1 KB (%2 KB "
+                                "asked for): a burst it cannot read at once is lost. Raise net.core.rmem_max.")
+                     .arg(grantedKb)
+                     .arg(ArtNetNode::kReceiveBufferBytes / 1024));
 
     g_stopRequested.store(false);
     std::signal(SIGINT, requestStop);

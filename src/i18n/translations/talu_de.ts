@@ -1017,10 +1017,6 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <translation>Oberflächendesign</translation>
     </message>
     <message>
-        <source>Theme:</source>
-        <translation>Design:</translation>
-    </message>
-    <message>
         <source>Language</source>
         <translation>Sprache</translation>
     </message>
@@ -1226,6 +1222,14 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>%1 / %2 · port 0x%3 · channel %4 · Z %5 · rgb(%6, %7, %8)</source>
         <translation>%1 / %2 · Port 0x%3 · Kanal %4 · Z %5 · rgb(%6, %7, %8)</translation>
     </message>
+    <message>
+        <source>The system gives this node a receive queue of only %1 KB (%2 KB asked for): a burst the program cannot read at once is lost. Raise the limit (net.core.rmem_max on Linux).</source>
+        <translation>Das System gibt diesem Node nur eine Empfangswarteschlange von %1 KB (%2 KB angefordert): Ein Paketschwall, den das Programm nicht sofort lesen kann, geht verloren. Erhöhen Sie die Grenze (net.core.rmem_max unter Linux).</translation>
+    </message>
+    <message>
+        <source>The window shows each theme as you select it.</source>
+        <translation>Das Fenster zeigt jedes Farbschema, sobald Sie es auswählen.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1236,6 +1240,14 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>Light</source>
         <translation>Hell</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Dim red</source>
+        <translation>Gedämpftes Rot</translation>
     </message>
 </context>
 <context>

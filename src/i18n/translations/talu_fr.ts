@@ -1017,10 +1017,6 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <translation>Thème de l&apos;interface</translation>
     </message>
     <message>
-        <source>Theme:</source>
-        <translation>Thème :</translation>
-    </message>
-    <message>
         <source>Language</source>
         <translation>Langue</translation>
     </message>
@@ -1226,6 +1222,14 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>%1 / %2 · port 0x%3 · channel %4 · Z %5 · rgb(%6, %7, %8)</source>
         <translation>%1 / %2 · port 0x%3 · canal %4 · Z %5 · rgb(%6, %7, %8)</translation>
     </message>
+    <message>
+        <source>The system gives this node a receive queue of only %1 KB (%2 KB asked for): a burst the program cannot read at once is lost. Raise the limit (net.core.rmem_max on Linux).</source>
+        <translation>Le système n&apos;accorde à ce nœud qu&apos;une file de réception de %1 KB (%2 KB demandés) : une rafale que le programme ne peut pas lire aussitôt est perdue. Relevez la limite (net.core.rmem_max sous Linux).</translation>
+    </message>
+    <message>
+        <source>The window shows each theme as you select it.</source>
+        <translation>La fenêtre affiche chaque thème dès que vous le sélectionnez.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1236,6 +1240,14 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <message>
         <source>Light</source>
         <translation>Clair</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
+        <source>Dim red</source>
+        <translation>Rouge tamisé</translation>
     </message>
 </context>
 <context>
