@@ -4,6 +4,7 @@
 #include "talu_version.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QMessageBox>
@@ -89,7 +90,9 @@ void UpdateController::onFinished(const UpdateCheckResult &result)
     }
     QMessageBox *box = nullptr;
     if (result.kind == UpdateCheckResult::Kind::Failed) {
-        box = openBox(tr("Could not check for updates: %1").arg(result.error));
+        // Our own reasons are translated here; the network's come translated by Qt.
+        const QString reason = QCoreApplication::translate("UpdateFeed", result.error.toUtf8().constData());
+        box = openBox(tr("Could not check for updates: %1").arg(reason));
         box->setIcon(QMessageBox::Warning);
         box->setStandardButtons(QMessageBox::Ok);
     } else if (!isNew) {

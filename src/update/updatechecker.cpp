@@ -1,5 +1,6 @@
 #include "update/updatechecker.h"
 
+#include <QCoreApplication>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
@@ -57,13 +58,13 @@ void UpdateChecker::onFinished()
 
     UpdateCheckResult result;
     if (m_tooLarge) {
-        result.error = QStringLiteral("The update information is too large.");
+        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is too large."));
     } else if (reply->error() != QNetworkReply::NoError) {
         result.error = reply->errorString();
     } else {
         m_received += reply->readAll();
         const UpdateFeedResult parsed = m_received.size() > kMaxFeedBytes
-                                            ? UpdateFeedResult{false, {}, QStringLiteral("The update information is too large.")}
+                                            ? UpdateFeedResult{false, {}, QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is too large."))}
                                             : parseUpdateFeed(m_received);
         if (!parsed.ok) {
             result.error = parsed.error;

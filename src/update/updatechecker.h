@@ -14,7 +14,7 @@ struct UpdateCheckResult
     enum class Kind { UpToDate, NewVersion, Failed };
     Kind kind = Kind::Failed;
     UpdateFeed feed;     // for UpToDate and NewVersion
-    QString error;       // for Failed: why, in plain English
+    QString error;       // for Failed: why (our own texts untranslated, context "UpdateFeed")
 };
 Q_DECLARE_METATYPE(UpdateCheckResult)
 

@@ -1,5 +1,6 @@
 #include "update/updatefeed.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -23,19 +24,19 @@ UpdateFeedResult parseUpdateFeed(const QByteArray &document)
     QJsonParseError parseError;
     const QJsonDocument json = QJsonDocument::fromJson(document, &parseError);
     if (parseError.error != QJsonParseError::NoError || !json.isObject()) {
-        result.error = QStringLiteral("The update information is not readable.");
+        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is not readable."));
         return result;
     }
     const QJsonObject object = json.object();
     const QString version = object.value(QStringLiteral("version")).toString().trimmed();
     if (!isDottedVersion(version)) {
-        result.error = QStringLiteral("The update information names no valid version.");
+        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information names no valid version."));
         return result;
     }
     const QUrl download(object.value(QStringLiteral("download")).toString().trimmed(), QUrl::StrictMode);
     if (!download.isValid() || (download.scheme() != QLatin1String("https") && download.scheme() != QLatin1String("http"))
         || download.host().isEmpty()) {
-        result.error = QStringLiteral("The update information has no valid download page.");
+        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information has no valid download page."));
         return result;
     }
     result.ok = true;

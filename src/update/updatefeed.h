@@ -22,7 +22,9 @@ struct UpdateFeedResult
 {
     bool ok = false;
     UpdateFeed feed;
-    QString error; // why the document was refused (English, shown to the user)
+    // Why the document was refused: English, translated for display in the
+    // context "UpdateFeed" (QCoreApplication::translate).
+    QString error;
 };
 
 // Reads the feed document: a JSON object with a text "version" made of

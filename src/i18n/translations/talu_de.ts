@@ -2179,4 +2179,23 @@ So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</t
         <translation>Später</translation>
     </message>
 </context>
+<context>
+    <name>UpdateFeed</name>
+    <message>
+        <source>The update information is too large.</source>
+        <translation>Die Update-Information ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The update information is not readable.</source>
+        <translation>Die Update-Information ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The update information names no valid version.</source>
+        <translation>Die Update-Information nennt keine gültige Version.</translation>
+    </message>
+    <message>
+        <source>The update information has no valid download page.</source>
+        <translation>Die Update-Information enthält keine gültige Download-Seite.</translation>
+    </message>
+</context>
 </TS>

@@ -2179,4 +2179,23 @@ Así se comprueba si una grabación basada en periodos enlaza sin cortes.</trans
         <translation>Más tarde</translation>
     </message>
 </context>
+<context>
+    <name>UpdateFeed</name>
+    <message>
+        <source>The update information is too large.</source>
+        <translation>La información de actualización es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The update information is not readable.</source>
+        <translation>La información de actualización no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The update information names no valid version.</source>
+        <translation>La información de actualización no indica ninguna versión válida.</translation>
+    </message>
+    <message>
+        <source>The update information has no valid download page.</source>
+        <translation>La información de actualización no tiene una página de descarga válida.</translation>
+    </message>
+</context>
 </TS>

@@ -2179,4 +2179,23 @@ C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique bo
         <translation>Plus tard</translation>
     </message>
 </context>
+<context>
+    <name>UpdateFeed</name>
+    <message>
+        <source>The update information is too large.</source>
+        <translation>Les informations de mise à jour sont trop volumineuses.</translation>
+    </message>
+    <message>
+        <source>The update information is not readable.</source>
+        <translation>Les informations de mise à jour sont illisibles.</translation>
+    </message>
+    <message>
+        <source>The update information names no valid version.</source>
+        <translation>Les informations de mise à jour ne donnent aucune version valide.</translation>
+    </message>
+    <message>
+        <source>The update information has no valid download page.</source>
+        <translation>Les informations de mise à jour n&apos;indiquent aucune page de téléchargement valide.</translation>
+    </message>
+</context>
 </TS>
