@@ -39,6 +39,7 @@ class LedMonitorView;
 class LivePipeline;
 class MoxStyle;
 class PatchBar;
+class PacketLogWindow;
 class PatchSummaryPanel;
 class PlaybackClock;
 class PlaybackPanel;
@@ -102,7 +103,7 @@ public:
     const TPatch::PatchData &patch() const { return m_patch; }
     const Recording &recording() const { return *m_recording; }
     const GpsSyncSet &gpsSet() const { return m_gpsSet; }
-    // The live path, or nullptr before the first start of listening.
+    // The live path, or nullptr before the first start of listening or of the network log.
     LivePipeline *livePipeline() const { return m_live.get(); }
     PlaybackClock *clock() const { return m_clock; }
     int liveRepaintCount() const { return m_liveRepaints; }
@@ -139,6 +140,11 @@ public slots:
     void copyMonitorImage();
     void applyTheme(const QString &id);
     void showShortcuts();
+    void showNetworkLog();
+    void openNetworkLog();
+    void openNetworkLogFile(const QString &path);
+    void saveNetworkLog();
+    void saveNetworkLogAs();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -213,7 +219,14 @@ private:
     void openLogsFolder();
     void showAbout();
 
+    // Network log (mainwindowlog.cpp)
+    // The log window a save applies to: the active one, else the live one (null when none is open).
+    PacketLogWindow *logWindowToSave() const;
+    bool saveLog(PacketLogWindow *window, const QString &path, const QString &format);
+
     // Live (mainwindowlive.cpp)
+    // The live pipeline, made on first use (listening or the network log).
+    LivePipeline &ensureLive();
     void showListeningStatus(const QString &address, quint16 port, int universeCount);
     void onLiveRepaint();
     void refreshBroadcastStatus();
@@ -259,6 +272,8 @@ private:
     QList<QAction *> m_broadcastActions; // enabled in Live broadcast
     QPointer<QDialog> m_shortcutsDialog;
     Translator *m_translator = nullptr;
+    QPointer<PacketLogWindow> m_logWindow; // the live log window
+    QString m_networkLogPath;              // where "Save Network Log" writes
     UpdateController *m_updates = nullptr;
 
     MoxStyle *m_style = nullptr;

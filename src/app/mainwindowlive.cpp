@@ -19,14 +19,19 @@ QVector<quint16> MainWindow::advertisedUniverses() const
     return m_patchLoaded ? LivePipeline::advertisedUniverses(m_patch) : QVector<quint16>();
 }
 
-void MainWindow::onBroadcastStart()
+LivePipeline &MainWindow::ensureLive()
 {
     if (!m_live) {
         m_live = std::make_unique<LivePipeline>();
         connect(&m_live->node(), &ArtNetNode::statusChanged, this, &MainWindow::refreshBroadcastStatus);
         connect(m_live.get(), &LivePipeline::recordingFailed, this, &MainWindow::onRecordingFailed);
     }
-    ArtNetNode &node = m_live->node();
+    return *m_live;
+}
+
+void MainWindow::onBroadcastStart()
+{
+    ArtNetNode &node = ensureLive().node();
     node.setIdentity(m_broadcastPanel->identity());
     const QVector<quint16> universes = advertisedUniverses();
     node.setUniverses(universes);

@@ -147,10 +147,14 @@ void MainWindow::buildMenus()
     m_recentPatchesMenu = addMenu(file, QT_TR_NOOP("Recent Patches"));
     m_recentRecordingsMenu = addMenu(file, QT_TR_NOOP("Recent Recordings"));
     file->addSeparator();
-    // The network log's files arrive with its window.
-    addPlanned(file, QT_TR_NOOP("Open Network Log..."));
-    addPlanned(file, QT_TR_NOOP("Save Network Log"));
-    addPlanned(file, QT_TR_NOOP("Save Network Log As..."));
+    connect(addEntry(file, QT_TR_NOOP("Open Network Log..."), QKeySequence()), &QAction::triggered, this,
+            &MainWindow::openNetworkLog);
+    connect(addEntry(file, QT_TR_NOOP("Save Network Log"), QKeySequence::Save, nullptr,
+                     QStringLiteral(":/icons/save.png")),
+            &QAction::triggered, this, &MainWindow::saveNetworkLog);
+    connect(addEntry(file, QT_TR_NOOP("Save Network Log As..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")), nullptr,
+                     QStringLiteral(":/icons/save-as.png")),
+            &QAction::triggered, this, &MainWindow::saveNetworkLogAs);
     file->addSeparator();
     connect(addEntry(file, QT_TR_NOOP("Save Monitor Snapshot..."), QKeySequence()), &QAction::triggered, this,
             &MainWindow::onSaveSnapshot);
@@ -161,7 +165,10 @@ void MainWindow::buildMenus()
             &QAction::triggered, this, &MainWindow::close);
 
     QMenu *edit = addMenu(nullptr, QT_TR_NOOP("&Edit"));
-    addPlanned(edit, QT_TR_NOOP("Network Log..."));
+    connect(addEntry(edit, QT_TR_NOOP("Network Log..."), QKeySequence(QStringLiteral("Ctrl+L")),
+                     QT_TR_NOOP("See every packet this node receives and sends."),
+                     QStringLiteral(":/icons/network_log_icon.png")),
+            &QAction::triggered, this, &MainWindow::showNetworkLog);
     connect(addEntry(edit, QT_TR_NOOP("Copy Monitor Image"), QKeySequence(QStringLiteral("Ctrl+Shift+C"))),
             &QAction::triggered, this, &MainWindow::copyMonitorImage);
     connect(addEntry(edit, QT_TR_NOOP("Interface Theme..."), QKeySequence(), nullptr,

@@ -4,6 +4,9 @@
 // the help entries and files dropped on the window.
 #include "app/updater.h"
 #include "i18n/translator.h"
+#include "packetlog/logfiles.h"
+#include "packetlog/widgets/packetlistmodel.h"
+#include "packetlog/widgets/packetlogwindow.h"
 #include "panels/playbackpanel.h"
 #include "recording/playbackclock.h"
 #include "recording/recording.h"
@@ -43,13 +46,13 @@ const Entry kEntries[] = {
     {"&File", "Open GPS-Sync Set Folder...", "", 'a', false},
     {"&File", "Recent Patches", "", 'a', false},
     {"&File", "Recent Recordings", "", 'a', false},
-    {"&File", "Open Network Log...", "", 'p', false},
-    {"&File", "Save Network Log", "", 'p', false},
-    {"&File", "Save Network Log As...", "", 'p', false},
+    {"&File", "Open Network Log...", "", 'a', false},
+    {"&File", "Save Network Log", "Ctrl+S", 'a', true},
+    {"&File", "Save Network Log As...", "Ctrl+Shift+S", 'a', true},
     {"&File", "Save Monitor Snapshot...", "", 'a', false},
     {"&File", "Export Patch Report...", "", 'p', false},
     {"&File", "Exit", "Ctrl+Q", 'a', true},
-    {"&Edit", "Network Log...", "", 'p', false},
+    {"&Edit", "Network Log...", "Ctrl+L", 'a', true},
     {"&Edit", "Copy Monitor Image", "Ctrl+Shift+C", 'a', false},
     {"&Edit", "Interface Theme...", "", 'a', true},
     {"&Edit", "Preferences...", "", 'p', false},
@@ -145,6 +148,7 @@ private slots:
     void helpEntriesShowWhatTheySay();
     void droppedFilesLoad();
     void themeAndLanguageDialogs();
+    void networkLogFilesOpenReadOnly();
 };
 
 void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
@@ -471,6 +475,42 @@ void TestMainWindowMenus::themeAndLanguageDialogs()
     translator.applyLanguage(QStringLiteral("en"));
     style.applyTheme(MoxStyle::defaultThemeId());
     style.install(*qApp);
+}
+
+void TestMainWindowMenus::networkLogFilesOpenReadOnly()
+{
+    QTemporaryDir dir;
+    std::vector<PacketLog::PacketRecord> records(3);
+    for (size_t i = 0; i < records.size(); ++i) {
+        records[i].timeNs = qint64(i) * 1000;
+        records[i].setDatagram(QByteArrayView("Art-Net\0\x00\x20\x00\x0e\x00\x00", 14)); // ArtPoll
+    }
+    const QString path = dir.filePath(QStringLiteral("show.tlog"));
+    PacketLog::LogMessage error;
+    QVERIFY(PacketLog::savePacketLog(path, PacketLog::LogFormat::Tlog, records, &error));
+    MainWindow w;
+    w.openNetworkLogFile(path);
+    auto *log = w.findChild<PacketLogWindow *>();
+    QVERIFY(log && log->isReadOnly());
+    QCOMPARE(log->windowTitle(), QStringLiteral("Network Log - show.tlog (read-only)"));
+    QCOMPARE(log->model()->rowCount(), 3);
+    QCOMPARE(status(w), QStringLiteral("Opened show.tlog: 3 records."));
+
+    // Not a log: refused in the reader's words, no window.
+    const QString text = dir.filePath(QStringLiteral("notes.tlog"));
+    QFile file(text);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("not a log");
+    file.close();
+    QString title;
+    onNextModal([&title](QWidget *modal) {
+        title = modal->windowTitle();
+        qobject_cast<QDialog *>(modal)->accept();
+    });
+    w.openNetworkLogFile(text);
+    QCOMPARE(title, QStringLiteral("Network Log"));
+    QVERIFY(status(w).startsWith(QStringLiteral("Network log not opened: ")));
+    QCOMPARE(w.findChildren<PacketLogWindow *>().size(), 1);
 }
 
 QTEST_MAIN(TestMainWindowMenus)

@@ -278,6 +278,25 @@ Sie skaliert nur den 2-Byte-Zeitstempel, der in jeden Datensatz geschrieben wird
     </message>
 </context>
 <context>
+    <name>FilterBar</name>
+    <message>
+        <source>Display filter, e.g. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a display filter and press Enter. Green: the filter is valid; red: it is not, and the message below says why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GpsGroupRow</name>
     <message>
         <source>expects %1 universe(s)</source>
@@ -1230,6 +1249,62 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>The window shows each theme as you select it.</source>
         <translation>Das Fenster zeigt jedes Farbschema, sobald Sie es auswählen.</translation>
     </message>
+    <message>
+        <source>Network log (*.tlog)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wireshark capture (*.pcapng)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV table (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Network Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network log not opened: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened %1: %2 records.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Network Log As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filter shows %1 of %2 records. Save only the records it shows?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network log saved to %1 (%2 records).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See every packet this node receives and sends.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1248,6 +1323,61 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>Dim red</source>
         <translation>Gedämpftes Rot</translation>
+    </message>
+</context>
+<context>
+    <name>PacketListModel</name>
+    <message>
+        <source>No.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dir</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished">Quelle</translation>
+    </message>
+    <message>
+        <source>Destination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OpCode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Universe</source>
+        <translation type="unfinished">Universum</translation>
+    </message>
+    <message>
+        <source>Seq</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1403,6 +1533,57 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
         <translation>Das Paket-Log bricht bei Datensatz %1 ab (bei Byte %2); die %3 Datensätze davor wurden gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>PacketLogWindow</name>
+    <message>
+        <source>%1 records · %2 shown · %3 dropped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network Log - %1 (read-only)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished">Pause</translation>
+    </message>
+    <message>
+        <source>Stop adding new packets to the list; the node goes on receiving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished">Leeren</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Packet fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Packet bytes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,162 @@
+// MainWindow: the network log. The live window follows the node's packet
+// journal; log files open in windows of their own, read-only; saving writes
+// what a window holds, or only what its filter shows.
+#include "app/mainwindow.h"
+
+#include "live/livepipeline.h"
+#include "packetlog/logfiles.h"
+#include "packetlog/widgets/filterbar.h"
+#include "packetlog/widgets/packetlistmodel.h"
+#include "packetlog/widgets/packetlogwindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+namespace {
+
+const QString kRecentFiltersKey = QStringLiteral("packetlog/recentFilters");
+
+// The save dialog's file types, by the name logFormatFromName knows.
+struct SaveType
+{
+    const char *filter;
+    const char *format;
+    const char *suffix;
+};
+const SaveType kSaveTypes[] = {
+    {QT_TRANSLATE_NOOP("MainWindow", "Network log (*.tlog)"), "tlog", "tlog"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Wireshark capture (*.pcapng)"), "pcapng", "pcapng"},
+    {QT_TRANSLATE_NOOP("MainWindow", "CSV table (*.csv)"), "csv", "csv"},
+    {QT_TRANSLATE_NOOP("MainWindow", "Text (*.txt)"), "text", "txt"},
+};
+
+} // namespace
+
+void MainWindow::showNetworkLog()
+{
+    if (!m_logWindow) {
+        auto *window = new PacketLogWindow(*m_style, this);
+        window->setJournal(&ensureLive().journal());
+        window->filterBar()->setRecentFilters(openSettings()->value(kRecentFiltersKey).toStringList());
+        connect(window->filterBar(), &FilterBar::recentFiltersChanged, this,
+                [](const QStringList &filters) { openSettings()->setValue(kRecentFiltersKey, filters); });
+        m_logWindow = window;
+    }
+    m_logWindow->show();
+    m_logWindow->raise();
+    m_logWindow->activateWindow();
+}
+
+void MainWindow::openNetworkLog()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open Network Log"), QFileInfo(m_networkLogPath).absolutePath(),
+        tr("Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)"));
+    if (!path.isEmpty())
+        openNetworkLogFile(path);
+}
+
+void MainWindow::openNetworkLogFile(const QString &path)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    PacketLog::LogLoadResult result = PacketLog::loadPacketLog(path);
+    QApplication::restoreOverrideCursor();
+    if (!result.ok) {
+        const QString reason = result.error.text();
+        showStatus([reason] { return tr("Network log not opened: %1").arg(reason); }, 0);
+        QMessageBox::warning(this, tr("Network Log"), reason);
+        return;
+    }
+    // A damaged file opens as far as it is whole; the warnings say where it stopped.
+    QStringList warnings;
+    for (const PacketLog::LogMessage &w : result.warnings)
+        warnings << w.text();
+    auto *window = new PacketLogWindow(*m_style, this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->filterBar()->setRecentFilters(openSettings()->value(kRecentFiltersKey).toStringList());
+    connect(window->filterBar(), &FilterBar::recentFiltersChanged, this,
+            [](const QStringList &filters) { openSettings()->setValue(kRecentFiltersKey, filters); });
+    const qint64 count = qint64(result.records.size());
+    window->showFile(path, std::move(result.records), warnings);
+    window->show();
+    const QString name = QFileInfo(path).fileName();
+    showStatus([name, count] { return tr("Opened %1: %2 records.").arg(name).arg(count); }, 5000);
+}
+
+PacketLogWindow *MainWindow::logWindowToSave() const
+{
+    if (auto *active = qobject_cast<PacketLogWindow *>(QApplication::activeWindow()))
+        return active;
+    return m_logWindow;
+}
+
+void MainWindow::saveNetworkLog()
+{
+    if (m_networkLogPath.isEmpty() || !m_logWindow) {
+        saveNetworkLogAs();
+        return;
+    }
+    saveLog(m_logWindow, m_networkLogPath, QStringLiteral("tlog"));
+}
+
+void MainWindow::saveNetworkLogAs()
+{
+    PacketLogWindow *window = logWindowToSave();
+    if (!window) {
+        // The live log holds what the node saw since the program started listening.
+        showNetworkLog();
+        window = m_logWindow;
+    }
+    QStringList filters;
+    for (const SaveType &type : kSaveTypes)
+        filters << tr(type.filter);
+    const QString start = m_networkLogPath.isEmpty()
+                              ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                                    .filePath(QStringLiteral("network.tlog"))
+                              : m_networkLogPath;
+    QString chosenFilter = filters.first();
+    QString path = QFileDialog::getSaveFileName(this, tr("Save Network Log As"), start,
+                                                filters.join(QStringLiteral(";;")), &chosenFilter);
+    if (path.isEmpty())
+        return;
+    const SaveType &type = kSaveTypes[std::max<qsizetype>(0, filters.indexOf(chosenFilter))];
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QLatin1Char('.') + QLatin1String(type.suffix);
+    if (saveLog(window, path, QString::fromLatin1(type.format)) && type.format == QLatin1String("tlog")
+        && window == m_logWindow)
+        m_networkLogPath = path;
+}
+
+bool MainWindow::saveLog(PacketLogWindow *window, const QString &path, const QString &formatName)
+{
+    PacketLog::LogFormat format;
+    if (!PacketLog::logFormatFromName(formatName, &format))
+        return false;
+    const PacketListModel *model = window->model();
+    bool onlyShown = false;
+    if (model->rowCount() < model->recordCount()) {
+        const auto answer = QMessageBox::question(
+            this, tr("Save Network Log"),
+            tr("The filter shows %1 of %2 records. Save only the records it shows?")
+                .arg(model->rowCount())
+                .arg(model->recordCount()),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+        if (answer == QMessageBox::Cancel)
+            return false;
+        onlyShown = answer == QMessageBox::Yes;
+    }
+    PacketLog::LogMessage error;
+    const bool saved =
+        PacketLog::savePacketLog(path, format, onlyShown ? model->shownRecords() : model->records(), &error);
+    if (!saved) {
+        QMessageBox::warning(this, tr("Save Network Log"), tr("Could not write %1: %2").arg(path, error.text()));
+        return false;
+    }
+    const qint64 count = onlyShown ? model->rowCount() : model->recordCount();
+    showStatus([path, count] { return tr("Network log saved to %1 (%2 records).").arg(path).arg(count); }, 0);
+    return true;
+}

@@ -1,0 +1,262 @@
+#include "packetlog/widgets/packetlogwindow.h"
+
+#include "packetlog/artnetfields.h"
+#include "packetlog/packetjournal.h"
+#include "packetlog/widgets/filterbar.h"
+#include "packetlog/widgets/packetlistmodel.h"
+#include "style/moxstyle.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTableView>
+#include <QTextBlock>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kHexBytesPerLine = 16;
+
+// The hex dump: "0000  41 72 74 2d ...  Art-..." lines of 16 bytes.
+QString hexDump(QByteArrayView bytes)
+{
+    QString text;
+    for (qsizetype line = 0; line < bytes.size(); line += kHexBytesPerLine) {
+        QString hex, ascii;
+        for (int i = 0; i < kHexBytesPerLine; ++i) {
+            if (line + i < bytes.size()) {
+                const auto b = quint8(bytes[line + i]);
+                hex += QStringLiteral("%1 ").arg(b, 2, 16, QLatin1Char('0'));
+                ascii += b >= 0x20 && b < 0x7F ? QChar(b) : QLatin1Char('.');
+            } else {
+                hex += QStringLiteral("   ");
+            }
+        }
+        text += QStringLiteral("%1  %2 %3\n").arg(line, 4, 16, QLatin1Char('0')).arg(hex, ascii);
+    }
+    return text;
+}
+
+// Where byte `offset` of the dump sits in its text: "0000  " then three
+// characters a byte, then the text column and the line break.
+int hexPosition(int offset)
+{
+    const int lineLength = 6 + 3 * kHexBytesPerLine + 1 + kHexBytesPerLine + 1;
+    return (offset / kHexBytesPerLine) * lineLength + 6 + 3 * (offset % kHexBytesPerLine);
+}
+
+} // namespace
+
+PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidget(parent, Qt::Window), m_style(style)
+{
+    setObjectName(QStringLiteral("PacketLogWindow"));
+    resize(1100, 700);
+    m_model = new PacketListModel(this);
+    m_filterBar = new FilterBar(style, this);
+    m_pauseButton = new QPushButton(this);
+    m_pauseButton->setCheckable(true);
+    m_clearButton = new QPushButton(this);
+    m_view = new QTableView(this);
+    m_view->setObjectName(QStringLiteral("packetList"));
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 4);
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_view->setWordWrap(false);
+    m_fields = new QTreeWidget(this);
+    m_fields->setObjectName(QStringLiteral("packetFields"));
+    m_fields->setColumnCount(2);
+    m_fields->setRootIsDecorated(false);
+    m_hex = new QPlainTextEdit(this);
+    m_hex->setObjectName(QStringLiteral("packetHex"));
+    m_hex->setReadOnly(true);
+    m_hex->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_hex->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_status = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("packetLogStatus"));
+
+    auto *top = new QHBoxLayout;
+    top->addWidget(m_filterBar, 1);
+    top->addWidget(m_pauseButton);
+    top->addWidget(m_clearButton);
+    auto *detail = new QSplitter(Qt::Horizontal);
+    detail->addWidget(m_fields);
+    detail->addWidget(m_hex);
+    auto *split = new QSplitter(Qt::Vertical);
+    split->addWidget(m_view);
+    split->addWidget(detail);
+    split->setStretchFactor(0, 3);
+    split->setStretchFactor(1, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addWidget(split, 1);
+    layout->addWidget(m_status);
+
+    connect(m_filterBar, &FilterBar::filterApplied, this, [this](auto filter, const QString &) {
+        m_model->setFilter(std::move(filter));
+        updateStatus();
+    });
+    connect(m_pauseButton, &QPushButton::toggled, this, [this](bool paused) {
+        if (!paused)
+            poll();
+        retranslateUi();
+    });
+    connect(m_clearButton, &QPushButton::clicked, this, [this] {
+        m_model->setRecords({});
+        m_dropped = 0;
+        m_fields->clear();
+        m_hex->clear();
+        updateStatus();
+    });
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &PacketLogWindow::showSelected);
+    connect(m_fields, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        // Mark the selected field's bytes in the dump.
+        QList<QTextEdit::ExtraSelection> marks;
+        if (item) {
+            const int offset = item->data(0, Qt::UserRole).toInt();
+            const int length = item->data(0, Qt::UserRole + 1).toInt();
+            const QString dump = m_hex->toPlainText();
+            for (int i = 0; i < length; ++i) {
+                QTextEdit::ExtraSelection mark;
+                mark.cursor = QTextCursor(m_hex->document());
+                const int at = hexPosition(offset + i);
+                if (at + 2 > dump.size())
+                    break;
+                mark.cursor.setPosition(at);
+                mark.cursor.setPosition(at + 2, QTextCursor::KeepAnchor);
+                mark.format.setBackground(m_style.colour(QStringLiteral("highlight")));
+                mark.format.setForeground(m_style.colour(QStringLiteral("highlightedText")));
+                marks << mark;
+            }
+        }
+        m_hex->setExtraSelections(marks);
+    });
+    connect(&m_style, &MoxStyle::themeChanged, this, &PacketLogWindow::applyTheme);
+    m_pollTimer.setInterval(kPollMs);
+    connect(&m_pollTimer, &QTimer::timeout, this, &PacketLogWindow::poll);
+    applyTheme();
+    retranslateUi();
+}
+
+PacketLogWindow::~PacketLogWindow() = default;
+
+void PacketLogWindow::setJournal(PacketLog::PacketJournal *journal)
+{
+    m_journal = journal;
+    m_fileName.clear();
+    m_seenAppended = journal ? journal->counters().appended : 0;
+    if (journal)
+        m_pollTimer.start();
+    else
+        m_pollTimer.stop();
+    retranslateUi();
+}
+
+void PacketLogWindow::showFile(const QString &path, std::vector<PacketLog::PacketRecord> records,
+                               const QStringList &warnings)
+{
+    setJournal(nullptr);
+    m_fileName = QFileInfo(path).fileName();
+    m_warnings = warnings;
+    m_dropped = 0;
+    m_model->setRecords(std::move(records));
+    retranslateUi();
+}
+
+void PacketLogWindow::poll()
+{
+    if (!m_journal || m_pauseButton->isChecked())
+        return;
+    const qint64 appended = m_journal->counters().appended;
+    const qint64 fresh = appended - m_seenAppended;
+    if (fresh <= 0)
+        return;
+    m_seenAppended = appended;
+    // The ring holds the newest records; what it overwrote before we looked is lost to the list.
+    const int size = m_journal->size();
+    const qint64 available = std::min<qint64>(fresh, size);
+    m_dropped += fresh - available;
+    std::vector<PacketLog::PacketRecord> batch;
+    batch.reserve(size_t(available));
+    for (int i = size - int(available); i < size; ++i)
+        batch.push_back(m_journal->at(i));
+    QScrollBar *bar = m_view->verticalScrollBar();
+    const bool following = bar->value() >= bar->maximum();
+    m_model->appendRecords(batch);
+    if (following)
+        m_view->scrollToBottom();
+    updateStatus();
+}
+
+void PacketLogWindow::showSelected()
+{
+    m_fields->clear();
+    const QModelIndex current = m_view->currentIndex();
+    if (!current.isValid()) {
+        m_hex->clear();
+        return;
+    }
+    const PacketLog::PacketRecord &record = m_model->recordAt(current.row());
+    const QByteArrayView bytes = record.headBytes();
+    m_hex->setPlainText(hexDump(bytes));
+    for (const PacketLog::DecodedField &field : PacketLog::decodeArtNetFields(bytes)) {
+        auto *item = new QTreeWidgetItem(m_fields, {field.name, field.value});
+        item->setData(0, Qt::UserRole, field.offset);
+        item->setData(0, Qt::UserRole + 1, field.length);
+    }
+    m_fields->resizeColumnToContents(0);
+}
+
+QString PacketLogWindow::statusText() const
+{
+    return tr("%1 records · %2 shown · %3 dropped")
+        .arg(m_model->recordCount())
+        .arg(m_model->rowCount())
+        .arg(m_dropped);
+}
+
+void PacketLogWindow::updateStatus()
+{
+    QString text = statusText();
+    if (!m_warnings.isEmpty())
+        text += QStringLiteral(" · ") + m_warnings.join(QStringLiteral(" · "));
+    m_status->setText(text);
+}
+
+void PacketLogWindow::applyTheme()
+{
+    m_model->setMarkColours(m_style.roleColour(MoxStyle::ErrorRole), m_style.roleColour(MoxStyle::WarningRole),
+                            m_style.roleColour(MoxStyle::Accent));
+}
+
+void PacketLogWindow::retranslateUi()
+{
+    setWindowTitle(m_fileName.isEmpty() ? tr("Network Log") : tr("Network Log - %1 (read-only)").arg(m_fileName));
+    m_pauseButton->setText(m_pauseButton->isChecked() ? tr("Resume") : tr("Pause"));
+    m_pauseButton->setToolTip(tr("Stop adding new packets to the list; the node goes on receiving."));
+    m_pauseButton->setEnabled(m_journal != nullptr);
+    m_clearButton->setText(tr("Clear"));
+    m_clearButton->setEnabled(m_journal != nullptr);
+    m_view->setAccessibleName(tr("Packets"));
+    m_fields->setHeaderLabels({tr("Field"), tr("Value")});
+    m_fields->setAccessibleName(tr("Packet fields"));
+    m_hex->setAccessibleName(tr("Packet bytes"));
+    updateStatus();
+}
+
+void PacketLogWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "packetlog/packetrecord.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+class FilterBar;
+class MoxStyle;
+class PacketListModel;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QTableView;
+class QTreeWidget;
+namespace PacketLog {
+class PacketJournal;
+}
+
+// The "Network Log" window: the packet list (live from the node's journal, or
+// a log file opened read-only), the display filter bar, the detail pane of the
+// selected record (decoded Art-Net fields over a hex dump that marks the
+// selected field) and a status line (records, shown, dropped).
+//
+// Live: every 100 ms the records the journal took since the last look are
+// added in one batch. Records the journal's ring had already overwritten by
+// then are counted as dropped. Pause stops taking them (the journal keeps its
+// ring); the list follows the newest record until the user scrolls up.
+// GUI thread only.
+class PacketLogWindow : public QWidget
+{
+    Q_OBJECT
+public:
+    static constexpr int kPollMs = 100;
+
+    explicit PacketLogWindow(const MoxStyle &style, QWidget *parent = nullptr);
+    ~PacketLogWindow() override;
+
+    // Follows a journal (not owned; null detaches). Only records appended from now on are shown.
+    void setJournal(PacketLog::PacketJournal *journal);
+    // Shows the records of a file, read-only; warnings are shown on the status line.
+    void showFile(const QString &path, std::vector<PacketLog::PacketRecord> records, const QStringList &warnings);
+    bool isReadOnly() const { return m_journal == nullptr && !m_fileName.isEmpty(); }
+    QString fileName() const { return m_fileName; }
+
+    FilterBar *filterBar() const { return m_filterBar; }
+    PacketListModel *model() const { return m_model; }
+    QTableView *view() const { return m_view; }
+    qint64 droppedCount() const { return m_dropped; }
+    QString statusText() const;
+    // Takes what the journal has now (the poll timer does this on its own).
+    void poll();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslateUi();
+    void applyTheme();
+    void showSelected();
+    void updateStatus();
+
+    const MoxStyle &m_style;
+    PacketListModel *m_model = nullptr;
+    FilterBar *m_filterBar = nullptr;
+    QPushButton *m_pauseButton = nullptr;
+    QPushButton *m_clearButton = nullptr;
+    QTableView *m_view = nullptr;
+    QTreeWidget *m_fields = nullptr;
+    QPlainTextEdit *m_hex = nullptr;
+    QLabel *m_status = nullptr;
+    QTimer m_pollTimer;
+    PacketLog::PacketJournal *m_journal = nullptr;
+    qint64 m_seenAppended = 0; // the journal's counter at the last look
+    qint64 m_dropped = 0;
+    QString m_fileName;
+    QStringList m_warnings;
+};

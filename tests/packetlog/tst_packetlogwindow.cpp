@@ -1,0 +1,201 @@
+// The Network Log window on a journal it follows: new records arrive in one
+// batch per look, what the ring overwrote first is counted as dropped, pause
+// and resume, the filter bar's states and messages, the detail pane's
+// decoded fields over the marked hex dump, and the rows that must stand out.
+#include "packetlog/displayfilter.h"
+#include "packetlog/packetjournal.h"
+#include "packetlog/widgets/filterbar.h"
+#include "packetlog/widgets/packetlistmodel.h"
+#include "packetlog/widgets/packetlogwindow.h"
+#include "style/moxstyle.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTreeWidget>
+#include <QtTest>
+
+using namespace PacketLog;
+
+namespace {
+
+// ArtDmx: "Art-Net\0", OpCode 0x5000 LE, ProtVer 14, sequence, physical,
+// Port-Address LE, length BE, then the data (the sequence again, so that the
+// journal never takes two of them for one refreshed frame).
+QByteArray artDmx(quint16 portAddress, quint8 sequence, int channels = 4)
+{
+    QByteArray b("Art-Net\0", 8);
+    b += QByteArray("\x00\x50\x00\x0e", 4);
+    b += char(sequence);
+    b += char(0);
+    b += char(portAddress & 0xFF);
+    b += char(portAddress >> 8);
+    b += char(channels >> 8);
+    b += char(channels & 0xFF);
+    b += QByteArray(channels, char(sequence));
+    return b;
+}
+
+PacketEvent packet(const QByteArray &bytes, Direction direction = Direction::In, Outcome outcome = Outcome::Ok)
+{
+    PacketEvent e;
+    e.direction = direction;
+    e.localIp = 0xC0000201; // 192.0.2.1
+    e.localPort = 6454;
+    e.peerIp = 0xC0000202;
+    e.peerPort = 6454;
+    e.bytes = bytes;
+    e.outcome = outcome;
+    return e;
+}
+
+} // namespace
+
+class TestPacketLogWindow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void recordsArriveInBatchesAndDropsAreCounted();
+    void filterBarStatesAndMessages();
+    void detailPaneMarksTheSelectedField();
+    void rowsThatMustStandOut();
+};
+
+void TestPacketLogWindow::recordsArriveInBatchesAndDropsAreCounted()
+{
+    MoxStyle style;
+    PacketJournal journal(1024);
+    journal.append(packet(artDmx(1, 200))); // before the window looked: not shown
+    PacketLogWindow window(style);
+    window.setJournal(&journal);
+    QSignalSpy inserted(window.model(), &QAbstractItemModel::rowsInserted);
+    for (int i = 0; i < 600; ++i)
+        journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i / 8))));
+    window.poll();
+    QCOMPARE(inserted.count(), 1); // one insert for the batch
+    QCOMPARE(window.model()->rowCount(), 600);
+
+    // More than the ring holds between two looks: the overwritten ones are dropped.
+    for (int i = 0; i < 1500; ++i)
+        journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i % 200)), Direction::Out));
+    window.poll();
+    QCOMPARE(window.model()->rowCount(), 600 + 1024);
+    QCOMPARE(window.droppedCount(), 1500 - 1024);
+    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("packetLogStatus"))->text(),
+             QStringLiteral("1624 records · 1624 shown · 476 dropped"));
+
+    // Paused: nothing is taken; resumed: the list catches up.
+    auto *pause = window.findChild<QPushButton *>();
+    QCOMPARE(pause->text(), QStringLiteral("Pause"));
+    pause->click();
+    journal.append(packet(artDmx(1, 9)));
+    window.poll();
+    QCOMPARE(window.model()->rowCount(), 1624);
+    QCOMPARE(pause->text(), QStringLiteral("Resume"));
+    pause->click();
+    QCOMPARE(window.model()->rowCount(), 1625);
+}
+
+void TestPacketLogWindow::filterBarStatesAndMessages()
+{
+    MoxStyle style;
+    PacketJournal journal;
+    PacketLogWindow window(style);
+    window.setJournal(&journal);
+    for (quint16 universe = 0; universe < 4; ++universe)
+        journal.append(packet(artDmx(universe, 1)));
+    window.poll();
+    FilterBar *bar = window.filterBar();
+    // Keys go to the combo box, as they do when it has the focus.
+    auto *field = bar->findChild<QComboBox *>();
+    auto *error = bar->findChild<QLabel *>(QStringLiteral("filterError"));
+    QSignalSpy recent(bar, &FilterBar::recentFiltersChanged);
+
+    // Invalid while typing: the filter's own message, and Enter changes nothing.
+    const QString broken = QStringLiteral("artnet.universe ==");
+    QTest::keyClicks(field, broken);
+    QVERIFY(!bar->isValid());
+    QVERIFY(error->isVisibleTo(&window));
+    QCOMPARE(error->text(), compileFilter(broken).error.text());
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(window.model()->rowCount(), 4);
+    QCOMPARE(recent.count(), 0);
+
+    QTest::keyClicks(field, QStringLiteral(" 2"));
+    QVERIFY(bar->isValid());
+    QVERIFY(!error->isVisibleTo(&window));
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(window.model()->rowCount(), 1);
+    QCOMPARE(window.model()->recordAt(0).portAddress, quint16(2));
+    QCOMPARE(recent.count(), 1);
+    QCOMPARE(recent.at(0).at(0).toStringList(), QStringList{"artnet.universe == 2"});
+    QCOMPARE(window.findChild<QLabel *>(QStringLiteral("packetLogStatus"))->text(),
+             QStringLiteral("4 records · 1 shown · 0 dropped"));
+    // New records pass the filter as they arrive.
+    journal.append(packet(artDmx(2, 2)));
+    journal.append(packet(artDmx(3, 2)));
+    window.poll();
+    QCOMPARE(window.model()->rowCount(), 2);
+
+    field->lineEdit()->clear();
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(window.model()->rowCount(), 6);
+}
+
+void TestPacketLogWindow::detailPaneMarksTheSelectedField()
+{
+    MoxStyle style;
+    PacketJournal journal;
+    PacketLogWindow window(style);
+    window.setJournal(&journal);
+    journal.append(packet(artDmx(0x0123, 7)));
+    window.poll();
+    window.view()->setCurrentIndex(window.model()->index(0, 0));
+    auto *fields = window.findChild<QTreeWidget *>(QStringLiteral("packetFields"));
+    QStringList shown;
+    for (int i = 0; i < fields->topLevelItemCount(); ++i)
+        shown << fields->topLevelItem(i)->text(0) + " = " + fields->topLevelItem(i)->text(1);
+    QCOMPARE(shown, (QStringList{"ID = Art-Net", "OpCode = 0x5000 (ArtDmx)", "ProtVer = 14", "Sequence = 7",
+                                 "Physical = 0", "Port-Address = 0x0123 (Net 1, Sub-Net 2, Universe 3)",
+                                 "Length = 4"}));
+    auto *hex = window.findChild<QPlainTextEdit *>(QStringLiteral("packetHex"));
+    QVERIFY(hex->toPlainText().startsWith(QStringLiteral("0000  41 72 74 2d 4e 65 74 00 00 50 00 0e 07 00 23 01 ")));
+    fields->setCurrentItem(fields->topLevelItem(5)); // Port-Address: bytes 14 and 15
+    const QList<QTextEdit::ExtraSelection> marks = hex->extraSelections();
+    QCOMPARE(marks.size(), 2);
+    QCOMPARE(marks.at(0).cursor.selectedText(), QStringLiteral("23"));
+    QCOMPARE(marks.at(1).cursor.selectedText(), QStringLiteral("01"));
+}
+
+void TestPacketLogWindow::rowsThatMustStandOut()
+{
+    MoxStyle style;
+    PacketJournal journal;
+    PacketLogWindow window(style);
+    window.setJournal(&journal);
+    QByteArray unknown = artDmx(1, 1);
+    unknown[9] = char(0x7f); // OpCode 0x7f00
+    journal.append(packet(artDmx(1, 5)));
+    journal.append(packet(artDmx(1, 3)));                                        // back: out of order
+    journal.append(packet(artDmx(1, 9), Direction::Out, Outcome::Failed));       // a failed send
+    journal.append(packet(unknown));
+    journal.append(packet(artDmx(1, 10)));                                       // in order
+    window.poll();
+    const auto colour = [&window](int row) {
+        return window.model()->data(window.model()->index(row, PacketListModel::InfoColumn), Qt::ForegroundRole);
+    };
+    QVERIFY(!colour(0).isValid());
+    QCOMPARE(colour(1).value<QBrush>().color(), style.roleColour(MoxStyle::WarningRole));
+    QCOMPARE(colour(2).value<QBrush>().color(), style.roleColour(MoxStyle::ErrorRole));
+    QCOMPARE(colour(3).value<QBrush>().color(), style.roleColour(MoxStyle::Accent));
+    QVERIFY(!colour(4).isValid());
+    QCOMPARE(window.model()->data(window.model()->index(3, PacketListModel::OpCodeColumn)).toString(),
+             QStringLiteral("OpCode 0x7f00"));
+}
+
+QTEST_MAIN(TestPacketLogWindow)
+#include "tst_packetlogwindow.moc"
