@@ -281,19 +281,19 @@ Sie skaliert nur den 2-Byte-Zeitstempel, der in jeden Datensatz geschrieben wird
     <name>FilterBar</name>
     <message>
         <source>Display filter, e.g. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigefilter, z. B. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</translation>
     </message>
     <message>
         <source>Type a display filter and press Enter. Green: the filter is valid; red: it is not, and the message below says why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Anzeigefilter ein und drücken Sie die Eingabetaste. Grün: Der Filter ist gültig; rot: Er ist es nicht, und die Meldung darunter nennt den Grund.</translation>
     </message>
     <message>
         <source>Display filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigefilter</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
 </context>
 <context>
@@ -1251,59 +1251,59 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     </message>
     <message>
         <source>Network log (*.tlog)</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log (*.tlog)</translation>
     </message>
     <message>
         <source>Wireshark capture (*.pcapng)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wireshark-Mitschnitt (*.pcapng)</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV-Tabelle (*.csv)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text (*.txt)</translation>
     </message>
     <message>
         <source>Open Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log öffnen</translation>
     </message>
     <message>
         <source>Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Logs und Mitschnitte (*.tlog *.pcapng *.pcap);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Network log not opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log nicht geöffnet: %1</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log</translation>
     </message>
     <message>
         <source>Opened %1: %2 records.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geöffnet: %2 Datensätze.</translation>
     </message>
     <message>
         <source>Save Network Log As</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log speichern unter</translation>
     </message>
     <message>
         <source>The filter shows %1 of %2 records. Save only the records it shows?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filter zeigt %1 von %2 Datensätzen. Nur die angezeigten Datensätze speichern?</translation>
     </message>
     <message>
         <source>Could not write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>Network log saved to %1 (%2 records).</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log gespeichert unter %1 (%2 Datensätze).</translation>
     </message>
     <message>
         <source>See every packet this node receives and sends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Paket anzeigen, das dieser Node empfängt und sendet.</translation>
     </message>
 </context>
 <context>
@@ -1329,55 +1329,55 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <name>PacketListModel</name>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Quelle</translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message>
         <source>OpCode</source>
-        <translation type="unfinished"></translation>
+        <translation>OpCode</translation>
     </message>
     <message>
         <source>Universe</source>
-        <translation type="unfinished">Universum</translation>
+        <translation>Universum</translation>
     </message>
     <message>
         <source>Seq</source>
-        <translation type="unfinished"></translation>
+        <translation>Seq</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>ausgehend</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>eingehend</translation>
     </message>
 </context>
 <context>
@@ -1539,51 +1539,51 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <name>PacketLogWindow</name>
     <message>
         <source>%1 records · %2 shown · %3 dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datensätze · %2 angezeigt · %3 verworfen</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log</translation>
     </message>
     <message>
         <source>Network Log - %1 (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk-Log - %1 (schreibgeschützt)</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished">Pause</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stop adding new packets to the list; the node goes on receiving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine neuen Pakete mehr in die Liste aufnehmen; der Node empfängt weiter.</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished">Leeren</translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Packets</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakete</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Packet fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketfelder</translation>
     </message>
     <message>
         <source>Packet bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paketbytes</translation>
     </message>
 </context>
 <context>

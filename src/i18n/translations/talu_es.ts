@@ -281,19 +281,19 @@ Solo escala la marca de tiempo de 2 bytes escrita en cada registro; los datos DM
     <name>FilterBar</name>
     <message>
         <source>Display filter, e.g. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de visualización, p. ej. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</translation>
     </message>
     <message>
         <source>Type a display filter and press Enter. Green: the filter is valid; red: it is not, and the message below says why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un filtro de visualización y pulse Intro. Verde: el filtro es válido; rojo: no lo es, y el mensaje de abajo indica por qué.</translation>
     </message>
     <message>
         <source>Display filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de visualización</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
 </context>
 <context>
@@ -1251,59 +1251,59 @@ Tocar la vista con el ratón lo detiene.</translation>
     </message>
     <message>
         <source>Network log (*.tlog)</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de red (*.tlog)</translation>
     </message>
     <message>
         <source>Wireshark capture (*.pcapng)</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura de Wireshark (*.pcapng)</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla CSV (*.csv)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto (*.txt)</translation>
     </message>
     <message>
         <source>Open Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir registro de red</translation>
     </message>
     <message>
         <source>Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros de red y capturas (*.tlog *.pcapng *.pcap);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Network log not opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir el registro de red: %1</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de red</translation>
     </message>
     <message>
         <source>Opened %1: %2 records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto %1: %2 entradas.</translation>
     </message>
     <message>
         <source>Save Network Log As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar registro de red como</translation>
     </message>
     <message>
         <source>The filter shows %1 of %2 records. Save only the records it shows?</source>
-        <translation type="unfinished"></translation>
+        <translation>El filtro muestra %1 de %2 entradas. ¿Guardar solo las entradas que muestra?</translation>
     </message>
     <message>
         <source>Could not write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir %1: %2</translation>
     </message>
     <message>
         <source>Network log saved to %1 (%2 records).</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de red guardado en %1 (%2 entradas).</translation>
     </message>
     <message>
         <source>See every packet this node receives and sends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra cada paquete que este nodo recibe y envía.</translation>
     </message>
 </context>
 <context>
@@ -1329,55 +1329,55 @@ Tocar la vista con el ratón lo detiene.</translation>
     <name>PacketListModel</name>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Dir.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Fuente</translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud</translation>
     </message>
     <message>
         <source>OpCode</source>
-        <translation type="unfinished"></translation>
+        <translation>OpCode</translation>
     </message>
     <message>
         <source>Universe</source>
-        <translation type="unfinished">Universo</translation>
+        <translation>Universo</translation>
     </message>
     <message>
         <source>Seq</source>
-        <translation type="unfinished"></translation>
+        <translation>Sec.</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>salida</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada</translation>
     </message>
 </context>
 <context>
@@ -1539,51 +1539,51 @@ Tocar la vista con el ratón lo detiene.</translation>
     <name>PacketLogWindow</name>
     <message>
         <source>%1 records · %2 shown · %3 dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entradas · %2 mostradas · %3 descartadas</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de red</translation>
     </message>
     <message>
         <source>Network Log - %1 (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de red - %1 (solo lectura)</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished">Pausa</translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Stop adding new packets to the list; the node goes on receiving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deja de añadir paquetes nuevos a la lista; el nodo sigue recibiendo.</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished">Borrar</translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Packets</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquetes</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Packet fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos del paquete</translation>
     </message>
     <message>
         <source>Packet bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes del paquete</translation>
     </message>
 </context>
 <context>

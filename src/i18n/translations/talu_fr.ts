@@ -281,19 +281,19 @@ Elle ne sert qu&apos;à mettre à l&apos;échelle l&apos;horodatage de 2 octets 
     <name>FilterBar</name>
     <message>
         <source>Display filter, e.g. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre d&apos;affichage, p. ex. artnet.opcode == artdmx &amp;&amp; ip.src == 10.0.0.1</translation>
     </message>
     <message>
         <source>Type a display filter and press Enter. Green: the filter is valid; red: it is not, and the message below says why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un filtre d&apos;affichage et appuyez sur Entrée. Vert : le filtre est valide ; rouge : il ne l&apos;est pas, et le message ci-dessous en donne la raison.</translation>
     </message>
     <message>
         <source>Display filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre d&apos;affichage</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
 </context>
 <context>
@@ -1251,59 +1251,59 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     </message>
     <message>
         <source>Network log (*.tlog)</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau (*.tlog)</translation>
     </message>
     <message>
         <source>Wireshark capture (*.pcapng)</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture Wireshark (*.pcapng)</translation>
     </message>
     <message>
         <source>CSV table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau CSV (*.csv)</translation>
     </message>
     <message>
         <source>Text (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte (*.txt)</translation>
     </message>
     <message>
         <source>Open Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un journal réseau</translation>
     </message>
     <message>
         <source>Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux réseau et captures (*.tlog *.pcapng *.pcap);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Network log not opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir le journal réseau : %1</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau</translation>
     </message>
     <message>
         <source>Opened %1: %2 records.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ouvert : %2 entrées.</translation>
     </message>
     <message>
         <source>Save Network Log As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le journal réseau sous</translation>
     </message>
     <message>
         <source>The filter shows %1 of %2 records. Save only the records it shows?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le filtre affiche %1 entrées sur %2. Enregistrer uniquement les entrées affichées ?</translation>
     </message>
     <message>
         <source>Could not write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire %1 : %2</translation>
     </message>
     <message>
         <source>Network log saved to %1 (%2 records).</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau enregistré dans %1 (%2 entrées).</translation>
     </message>
     <message>
         <source>See every packet this node receives and sends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche chaque paquet que ce nœud reçoit et envoie.</translation>
     </message>
 </context>
 <context>
@@ -1329,55 +1329,55 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <name>PacketListModel</name>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N°</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished">Source</translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destination</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur</translation>
     </message>
     <message>
         <source>OpCode</source>
-        <translation type="unfinished"></translation>
+        <translation>OpCode</translation>
     </message>
     <message>
         <source>Universe</source>
-        <translation type="unfinished">Univers</translation>
+        <translation>Univers</translation>
     </message>
     <message>
         <source>Seq</source>
-        <translation type="unfinished"></translation>
+        <translation>Séq.</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>sortant</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>entrant</translation>
     </message>
 </context>
 <context>
@@ -1539,51 +1539,51 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <name>PacketLogWindow</name>
     <message>
         <source>%1 records · %2 shown · %3 dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entrées · %2 affichées · %3 perdues</translation>
     </message>
     <message>
         <source>Network Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau</translation>
     </message>
     <message>
         <source>Network Log - %1 (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal réseau - %1 (lecture seule)</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished">Pause</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stop adding new packets to the list; the node goes on receiving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus ajouter de nouveaux paquets à la liste ; le nœud continue de recevoir.</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished">Effacer</translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Packets</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquets</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Packet fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Champs du paquet</translation>
     </message>
     <message>
         <source>Packet bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Octets du paquet</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,23 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidg
     m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 4);
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->setWordWrap(false);
+    // Widths from the widest text each column shows, so nothing is cut short
+    // (sizing to the contents would read every row).
+    const QFontMetrics metrics = m_view->fontMetrics();
+    const std::pair<int, const char *> samples[] = {
+        {PacketListModel::NumberColumn, "00000000"},
+        {PacketListModel::TimeColumn, "2026-12-31 23:59:59.999999 "},
+        {PacketListModel::DirectionColumn, "out  "},
+        {PacketListModel::SourceColumn, "255.255.255.255:65535 "},
+        {PacketListModel::DestinationColumn, "255.255.255.255:65535 "},
+        {PacketListModel::LengthColumn, "Length  "},
+        {PacketListModel::OpCodeColumn, "ArtPollReply  "},
+        {PacketListModel::UniverseColumn, "Universe  "},
+        {PacketListModel::SequenceColumn, "Seq  "},
+        {PacketListModel::OutcomeColumn, "not sent  "},
+    };
+    for (const auto &[column, sample] : samples)
+        m_view->horizontalHeader()->resizeSection(column, metrics.horizontalAdvance(QLatin1String(sample)) + 12);
     m_fields = new QTreeWidget(this);
     m_fields->setObjectName(QStringLiteral("packetFields"));
     m_fields->setColumnCount(2);
