@@ -71,7 +71,8 @@ QString statusLine(const NodeStats &s)
         .arg(s.sequenceErrors);
 }
 
-QJsonObject reportJson(const ArtNetNode &node, double seconds, const RecordingWriter *writer)
+QJsonObject reportJson(const ArtNetNode &node, double seconds, const RecordingWriter *writer,
+                       const PacketLog::JournalCounters *log, const QString &logPath)
 {
     const NodeStats s = node.stats();
     QJsonArray universes;
@@ -97,6 +98,12 @@ QJsonObject reportJson(const ArtNetNode &node, double seconds, const RecordingWr
         report.insert(QStringLiteral("path"), writer->path());
         report.insert(QStringLiteral("recordError"),
                       writer->failed() ? QJsonValue(writer->failureReason()) : QJsonValue());
+    }
+    if (log) {
+        report.insert(QStringLiteral("logRecords"), double(log->spooled));
+        report.insert(QStringLiteral("logCollapsed"), double(log->collapsed));
+        report.insert(QStringLiteral("logDropped"), double(log->spoolDropped));
+        report.insert(QStringLiteral("logPath"), logPath);
     }
     return report;
 }
@@ -125,6 +132,10 @@ int runListenCommand(const QStringList &arguments)
         "records per frame, otherwise they are cut by universe repetition and pauses over 7 ms. The JSON then\n"
         "adds frames, records, bytes (appended this run), path, and recordError (why recording stopped, or null).\n"
         "A failed write stops the recording and is reported as \"Recording stopped: REASON\"; the node runs on.\n"
+        "With --log, every datagram the node sends and receives goes to FILE, a .tlog packet log (created or\n"
+        "truncated; an unchanged ArtDmx repeated within 250 ms is left out, as in the window's Network Log). The\n"
+        "JSON then adds logRecords (written), logCollapsed (repeats left out), logDropped (records the disk could\n"
+        "not take in time) and logPath.\n"
         "Exit codes: 0 ran and stopped, 1 the socket could not be bound or the patch was refused, 2 usage error."));
     const QCommandLineOption address(QStringLiteral("address"),
                                      QStringLiteral("Local IPv4 address to listen on (default: any)."),
@@ -152,8 +163,12 @@ int runListenCommand(const QStringList &arguments)
                                     QStringLiteral("file"));
     const QCommandLineOption fps(QStringLiteral("fps"), QStringLiteral("Frame rate of the recording (1 to 240, default 40)."),
                                  QStringLiteral("n"), QStringLiteral("40"));
+    const QCommandLineOption log(QStringLiteral("log"),
+                                 QStringLiteral("Write the packet log of every datagram sent and received to this .tlog file."),
+                                 QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
-    for (const QCommandLineOption &o : {address, port, universes, patch, shortName, longName, seconds, record, fps, json})
+    for (const QCommandLineOption &o :
+         {address, port, universes, patch, shortName, longName, seconds, record, fps, log, json})
         parser.addOption(o);
     if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("listen"), arguments))
         return *done;
@@ -213,7 +228,17 @@ int runListenCommand(const QStringList &arguments)
 
     // The window's own live path; without a colour target it only records.
     LivePipeline pipeline;
-    pipeline.journal().setEnabled(false); // no packet log here: nothing would read it
+    // Without --log nothing would read the packet log: it is not kept.
+    PacketLog::PacketJournal &journal = pipeline.journal();
+    journal.setEnabled(parser.isSet(log));
+    if (parser.isSet(log)) {
+        PacketLog::LogMessage error;
+        if (!journal.startSpool(parser.value(log), &error)) {
+            printErr(QStringLiteral("talu-cli listen: cannot write the packet log %1: %2")
+                         .arg(parser.value(log), error.untranslatedText()));
+            return ExitRefused;
+        }
+    }
     ArtNetNode &node = pipeline.node();
     node.setIdentity(identity);
     node.setUniverses(advertised);
@@ -276,12 +301,15 @@ int runListenCommand(const QStringList &arguments)
     QCoreApplication::exec();
     node.stop();
     pipeline.stopRecording();
+    journal.stopSpool();
+    const PacketLog::JournalCounters logged = journal.counters();
+    const PacketLog::JournalCounters *logReport = parser.isSet(log) ? &logged : nullptr;
     const RecordingWriter *writer = pipeline.writer();
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
 
     if (parser.isSet(json)) {
-        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer));
+        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer, logReport, parser.value(log)));
     } else {
         if (live)
             std::fputs("\n", stdout);
@@ -292,6 +320,13 @@ int runListenCommand(const QStringList &arguments)
                          .arg(writer->framesWritten())
                          .arg(writer->bytesAppended())
                          .arg(writer->path()));
+        }
+        if (logReport) {
+            printOut(QStringLiteral("logged %1 packets (%2 repeats left out, %3 dropped) to %4")
+                         .arg(logged.spooled)
+                         .arg(logged.collapsed)
+                         .arg(logged.spoolDropped)
+                         .arg(parser.value(log)));
         }
     }
     return ExitOk;

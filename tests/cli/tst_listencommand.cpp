@@ -1,5 +1,6 @@
 #include "artnet/artnetpacket.h"
 #include "clirunner.h"
+#include "packetlog/logfiles.h"
 #include "recording/recording.h"
 
 #include "netnsguard.h"
@@ -10,6 +11,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QUdpSocket>
+
+#include <algorithm>
+#include "packetlog/logfiles.h"
+
 #include <QtTest>
 
 // talu-cli listen as a show machine runs it: a process, polled and fed by a
@@ -114,11 +119,12 @@ void TestListenCommand::recordsEveryDmxPacket()
 {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("take.tpx"));
+    const QString logPath = dir.filePath(QStringLiteral("take.tlog"));
     QProcess listen;
     listen.start(QStringLiteral(TALU_CLI_PATH),
                  {QStringLiteral("listen"), QStringLiteral("--seconds"), QStringLiteral("3"), QStringLiteral("--json"),
                   QStringLiteral("--port"), QStringLiteral("6461"), QStringLiteral("--record"), path,
-                  QStringLiteral("--fps"), QStringLiteral("25")});
+                  QStringLiteral("--fps"), QStringLiteral("25"), QStringLiteral("--log"), logPath});
     QByteArray err;
     QVERIFY2(waitForListening(listen, &err), err.constData());
 
@@ -151,6 +157,17 @@ void TestListenCommand::recordsEveryDmxPacket()
     const RecordRef last = recording.recordAt(7, 2);
     QCOMPARE(last.universe, quint16(3));
     QCOMPARE(recording.bytes().at(last.dataOffset), char(7 * 16 + 3));
+
+    // The packet log has every one of them too, beside the node's own replies.
+    const PacketLog::LogLoadResult log = PacketLog::loadPacketLog(logPath);
+    QVERIFY(log.ok);
+    const auto dmxIn = std::count_if(log.records.cbegin(), log.records.cend(), [](const PacketLog::PacketRecord &r) {
+        return r.direction == PacketLog::Direction::In && r.isDmx();
+    });
+    QCOMPARE(dmxIn, 24);
+    QCOMPARE(report.value(QStringLiteral("logRecords")).toInt(), int(log.records.size()));
+    QCOMPARE(report.value(QStringLiteral("logDropped")).toInt(), 0);
+    QCOMPARE(report.value(QStringLiteral("logPath")).toString(), logPath);
 }
 
 void TestListenCommand::refusals_data()
@@ -164,6 +181,8 @@ void TestListenCommand::refusals_data()
                                   << QStringLiteral("not both");
     QTest::newRow("bad port") << QStringList{"--port", "70000"} << 2 << QStringLiteral("not a port number");
     QTest::newRow("missing patch") << QStringList{"--patch", "/nonexistent/x.tpatch"} << 1 << QString();
+    QTest::newRow("log not writable") << QStringList{"--log", "/nonexistent/x.tlog", "--seconds", "1"} << 1
+                                      << QStringLiteral("cannot write the packet log /nonexistent/x.tlog: ");
     QTest::newRow("address not local") << QStringList{"--address", "192.0.2.99", "--seconds", "1"} << 1
                                        << QStringLiteral("cannot listen on 192.0.2.99:6454 - ");
 }
