@@ -7,57 +7,6 @@ namespace ArtNet {
 
 namespace {
 
-// "Art-Net" and its terminating zero open every Art-Net packet.
-constexpr char kId[8] = {'A', 'r', 't', '-', 'N', 'e', 't', '\0'};
-// Art-Net 4 is protocol revision 14.
-constexpr quint8 kProtocolVersion = 14;
-
-const uchar *bytesOf(QByteArrayView v)
-{
-    return reinterpret_cast<const uchar *>(v.data());
-}
-
-// Callers check the size first.
-bool hasIdAt(QByteArrayView d, int offset)
-{
-    return std::memcmp(d.data() + offset, kId, sizeof kId) == 0;
-}
-
-quint16 le16At(QByteArrayView d, int offset)
-{
-    const uchar *p = bytesOf(d) + offset;
-    return quint16(p[0] | (p[1] << 8));
-}
-
-quint16 be16At(QByteArrayView d, int offset)
-{
-    const uchar *p = bytesOf(d) + offset;
-    return quint16((p[0] << 8) | p[1]);
-}
-
-ClassifiedDatagram dmxAt(QByteArrayView d, DmxFlavour flavour, int headerSize)
-{
-    // KEL carries the same 18-byte ArtDmx header behind its 12-byte prefix.
-    const int base = headerSize - kDmxHeaderSize;
-    ClassifiedDatagram c;
-    const int available = int(d.size()) - headerSize;
-    const int length = std::min(available, int(be16At(d, base + 16)));
-    if (length < 1)
-        return c;
-    c.kind = DatagramKind::Dmx;
-    c.flavour = flavour;
-    c.sequence = quint8(d[base + 12]);
-    c.portAddress = le16At(d, base + 14);
-    c.dataOffset = headerSize;
-    c.dataLength = length;
-    return c;
-}
-
-bool isKel(QByteArrayView d)
-{
-    return d.size() >= kKelHeaderSize && hasIdAt(d, kKelPrefixSize) && le16At(d, 20) == kOpKelDmx;
-}
-
 void putLatin1(QByteArray &out, int offset, const QString &text, int maxChars)
 {
     const QByteArray latin1 = text.left(maxChars).toLatin1();
@@ -92,45 +41,6 @@ QByteArray dmxHeader(quint16 opCode, quint16 portAddress, quint8 sequence, int l
 }
 
 } // namespace
-
-ClassifiedDatagram classifyDatagram(QByteArrayView d)
-{
-    const qsizetype size = d.size();
-    if (size <= 9)
-        return {};
-    if (size <= 17) {
-        // Only an ArtPoll (14 bytes) is useful at this length.
-        if (!hasIdAt(d, 0))
-            return {};
-    } else if (!hasIdAt(d, 0)) {
-        return isKel(d) ? dmxAt(d, DmxFlavour::Kel, kKelHeaderSize) : ClassifiedDatagram{};
-    } else if (le16At(d, 8) == kOpDmx) {
-        return dmxAt(d, DmxFlavour::ArtNet, kDmxHeaderSize);
-    } else if (isKel(d)) {
-        return dmxAt(d, DmxFlavour::Kel, kKelHeaderSize);
-    }
-    ClassifiedDatagram c;
-    const quint16 op = le16At(d, 8);
-    if (op == kOpPoll)
-        c.kind = DatagramKind::Poll;
-    else if (op == kOpPollReply)
-        c.kind = DatagramKind::PollReply;
-    return c;
-}
-
-QString kelDeviceName(QByteArrayView d)
-{
-    if (d.size() < kKelPrefixSize)
-        return {};
-    const char *name = d.data() + 2;
-    const char *end = std::find(name, name + kKelNameSize, '\0');
-    return QString::fromLatin1(name, end - name);
-}
-
-bool isSequenceError(quint8 last, quint8 sequence)
-{
-    return qint8(quint8(sequence - 1 - last)) < 0;
-}
 
 int pollReplyPageCount(const QVector<quint16> &universes)
 {

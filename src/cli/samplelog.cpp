@@ -1,5 +1,7 @@
 #include "cli/samplelog.h"
 
+#include "artnet/artnetwire.h"
+
 #include <cstring>
 
 using namespace PacketLog;
@@ -13,7 +15,7 @@ constexpr qint64 kStartNs = 1767225600LL * 1000000000LL; // 2026-01-01 00:00:00 
 QByteArray artNetHeader(quint16 opcode, int size)
 {
     QByteArray bytes(size, '\0');
-    std::memcpy(bytes.data(), "Art-Net", 8);
+    std::memcpy(bytes.data(), ArtNet::kId, sizeof ArtNet::kId);
     bytes[8] = char(opcode & 0xFF);
     bytes[9] = char(opcode >> 8);
     return bytes;
@@ -36,7 +38,7 @@ PacketRecord record(qint64 offsetUs, Direction dir, quint32 src, quint32 dst, co
 
 QByteArray makeArtDmx(quint16 portAddress, quint8 sequence, int channels, quint8 fill)
 {
-    QByteArray bytes = artNetHeader(0x5000, 18 + channels);
+    QByteArray bytes = artNetHeader(ArtNet::kOpDmx, ArtNet::kDmxHeaderSize + channels);
     bytes[11] = 14; // protocol version
     bytes[12] = char(sequence);
     bytes[14] = char(portAddress & 0xFF);
@@ -50,14 +52,14 @@ QByteArray makeArtDmx(quint16 portAddress, quint8 sequence, int channels, quint8
 
 QByteArray makeArtPoll()
 {
-    QByteArray bytes = artNetHeader(0x2000, 14);
+    QByteArray bytes = artNetHeader(ArtNet::kOpPoll, 14);
     bytes[11] = 14;
     return bytes;
 }
 
 QByteArray makeArtPollReply(const char *shortName)
 {
-    QByteArray bytes = artNetHeader(0x2100, 239);
+    QByteArray bytes = artNetHeader(ArtNet::kOpPollReply, ArtNet::kPollReplySize);
     std::strncpy(bytes.data() + 26, shortName, 17);
     return bytes;
 }

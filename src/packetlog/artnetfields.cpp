@@ -108,17 +108,15 @@ void decodePollReply(Decoder &d)
 std::vector<DecodedField> decodeArtNetFields(QByteArrayView bytes)
 {
     // The KEL variant of ArtDmx carries its Art-Net header 12 bytes in.
-    static const QByteArrayView kId("Art-Net\0", 8);
     int at = 0;
-    if (!bytes.startsWith(kId)) {
-        if (bytes.size() >= 20 && bytes.sliced(12).startsWith(kId))
-            at = 12;
-        else
+    if (!ArtNet::hasIdAt(bytes, 0)) {
+        if (!ArtNet::hasIdAt(bytes, ArtNet::kKelPrefixSize))
             return {};
+        at = ArtNet::kKelPrefixSize;
     }
     Decoder d(bytes);
-    if (at == 12)
-        d.addText("Device", 2, 10);
+    if (at == ArtNet::kKelPrefixSize)
+        d.addText("Device", 2, ArtNet::kKelNameSize);
     d.add("ID", at, 8, QStringLiteral("Art-Net"));
     if (!d.has(at + 8, 2))
         return std::move(d.fields);

@@ -7,15 +7,8 @@ namespace PacketLog {
 
 namespace {
 
-constexpr char kArtNetId[8] = {'A', 'r', 't', '-', 'N', 'e', 't', '\0'};
-
 quint16 le16(const unsigned char *p) { return quint16(p[0] | (p[1] << 8)); }
 quint16 be16(const unsigned char *p) { return quint16((p[0] << 8) | p[1]); }
-
-bool hasIdAt(QByteArrayView bytes, qsizetype offset)
-{
-    return bytes.size() >= offset + 10 && std::memcmp(bytes.data() + offset, kArtNetId, 8) == 0;
-}
 
 // A zero-terminated Latin-1 name inside the head, cut at the head's end.
 QString latin1Field(const PacketRecord &r, int offset, int size)
@@ -43,21 +36,18 @@ void PacketRecord::setDatagram(QByteArrayView bytes)
     opcode = 0;
     portAddress = 0;
     sequence = 0;
-    // Same classification as the node: the ID at 0 with the opcode at 8, or
-    // the KEL framing with the ID at 12 and the opcode at 20.
-    if (hasIdAt(bytes, 0)) {
+    // The node's own classification: DMX is what the node would take as DMX
+    // (an ArtDmx without data bytes is not); any other datagram that opens
+    // with the ID is Art-Net with the OpCode at 8.
+    const ArtNet::ClassifiedDatagram c = ArtNet::classifyDatagram(bytes);
+    if (c.kind == ArtNet::DatagramKind::Dmx) {
+        flags |= kFlagArtNet | kFlagDmx;
+        opcode = c.flavour == ArtNet::DmxFlavour::Kel ? kOpKel : kOpDmx;
+        sequence = c.sequence;
+        portAddress = c.portAddress;
+    } else if (bytes.size() >= 10 && ArtNet::hasIdAt(bytes, 0)) {
         flags |= kFlagArtNet;
         opcode = le16(head + 8);
-        if (opcode == kOpDmx && bytes.size() >= 18) {
-            flags |= kFlagDmx;
-            sequence = head[12];
-            portAddress = le16(head + 14);
-        }
-    } else if (bytes.size() >= 30 && hasIdAt(bytes, 12) && le16(head + 20) == kOpKel) {
-        flags |= kFlagArtNet | kFlagDmx;
-        opcode = kOpKel;
-        sequence = head[24];
-        portAddress = le16(head + 26);
     }
 }
 
@@ -67,7 +57,7 @@ QString PacketRecord::info() const
     if (!isArtNet()) {
         text = QStringLiteral("UDP, %1 bytes").arg(length);
     } else if (isDmx()) {
-        const int header = opcode == kOpKel ? 30 : 18;
+        const int header = opcode == kOpKel ? ArtNet::kKelHeaderSize : ArtNet::kDmxHeaderSize;
         const int lengthField = headLength >= header ? be16(head + header - 2) : 0;
         const qint64 channels = std::min<qint64>(lengthField, qint64(length) - header);
         text = QStringLiteral("%1 0x%2 seq %3, %4 channels")

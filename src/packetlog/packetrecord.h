@@ -1,5 +1,6 @@
 #pragma once
 
+#include "artnet/artnetwire.h"
 #include "packetlog/packetvocabulary.h"
 
 #include <QByteArrayView>
@@ -10,10 +11,10 @@
 namespace PacketLog {
 
 // Art-Net opcodes the log names (little-endian on the wire at offset 8).
-constexpr quint16 kOpPoll = 0x2000;
-constexpr quint16 kOpPollReply = 0x2100;
-constexpr quint16 kOpDmx = 0x5000;
-constexpr quint16 kOpKel = 0x5300; // the KEL variant of ArtDmx: its Art-Net header sits 12 bytes in
+constexpr quint16 kOpPoll = ArtNet::kOpPoll;
+constexpr quint16 kOpPollReply = ArtNet::kOpPollReply;
+constexpr quint16 kOpDmx = ArtNet::kOpDmx;
+constexpr quint16 kOpKel = ArtNet::kOpKelDmx; // the KEL variant of ArtDmx: its Art-Net header sits 12 bytes in
 
 // One logged datagram: what the filter and the packet list need, at a fixed
 // 296 bytes so that the journal's ring and the .tlog file hold records back

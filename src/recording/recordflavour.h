@@ -1,5 +1,7 @@
 #pragma once
 
+#include "artnet/artnetwire.h"
+
 #include <QtGlobal>
 
 // The two record shapes a .tpx file can hold. Plain ArtDmx is what every
@@ -13,13 +15,14 @@ enum class RecordFlavour : quint8
 
 namespace RecordLayout {
 
-constexpr int kArtNetHeaderSize = 18;
-constexpr int kKelHeaderSize = 30;
-constexpr int kKelPrefixSize = 12; // two bytes we do not interpret, then the 10-byte device name
-constexpr int kKelNameSize = 10;
-constexpr int kTimestampSize = 2;     // every record ends with a little-endian frame-clock stamp
-constexpr quint16 kOpArtDmx = 0x5000; // ArtDmx OpCode
-constexpr quint16 kOpKelDmx = 0x5300; // the KEL variant's OpCode
+// A record is the ArtDmx (or KEL) packet as it came off the wire.
+constexpr int kArtNetHeaderSize = ArtNet::kDmxHeaderSize;
+constexpr int kKelHeaderSize = ArtNet::kKelHeaderSize;
+constexpr int kKelPrefixSize = ArtNet::kKelPrefixSize; // two bytes we do not interpret, then the device name
+constexpr int kKelNameSize = ArtNet::kKelNameSize;
+constexpr int kTimestampSize = 2; // every record ends with a little-endian frame-clock stamp
+constexpr quint16 kOpArtDmx = ArtNet::kOpDmx;
+constexpr quint16 kOpKelDmx = ArtNet::kOpKelDmx;
 constexpr int kGpsBlockSize = 143;    // GPS-Sync recordings carry this block before the first record
 constexpr int kMaxDmxLength = 512;    // a DMX universe has 512 slots
 

@@ -1,5 +1,7 @@
 #include "recording/recording.h"
 
+#include "artnet/artnetwire.h"
+
 #include "patch/frameorder.h"
 #include "recording/gpsmetadatablock.h"
 
@@ -32,11 +34,10 @@ constexpr qint64 kMaxPeriod = 4096;
 constexpr qint64 kPrefetchFrom = 4;
 constexpr qint64 kPrefetchTo = 8;
 
-const char kArtNetId[8] = {'A', 'r', 't', '-', 'N', 'e', 't', '\0'};
-
+// Callers check the size first: the walk is hot and knows it has the bytes.
 bool hasId(const char *at)
 {
-    return std::memcmp(at, kArtNetId, sizeof kArtNetId) == 0;
+    return std::memcmp(at, ArtNet::kId, sizeof ArtNet::kId) == 0;
 }
 quint16 le16(const char *at)
 {

@@ -42,8 +42,8 @@ private slots:
                                 << "ArtDmx 0x0123 seq 9, 512 channels";
         QTest::newRow("ArtDmx short data") << makeArtDmx(0x0001, 0, 512, 0).left(118) << true << true << 0x5000 << 1
                                            << "ArtDmx 0x0001 seq 0, 100 channels";
-        QTest::newRow("ArtDmx header only") << makeArtDmx(7, 1, 0, 0) << true << true << 0x5000 << 7
-                                            << "ArtDmx 0x0007 seq 1, 0 channels";
+        // No data bytes: the node ignores it, so the log does not count it as DMX either.
+        QTest::newRow("ArtDmx header only") << makeArtDmx(7, 1, 0, 0) << true << false << 0x5000 << 0 << "ArtDmx";
         QTest::newRow("ArtDmx cut in header") << makeArtDmx(7, 1, 0, 0).left(16) << true << false << 0x5000 << 0
                                               << "ArtDmx";
         QTest::newRow("KEL") << kel(0x0042, 3) << true << true << 0x5300 << 0x42
