@@ -1,8 +1,9 @@
 # talu_add_test(<name> SOURCES <files...> LIBS <targets...> [LABELS <labels...>])
 #
 # One Qt Test executable per test file, registered with CTest. Every test runs
-# offscreen and with its own configuration home, so no test ever reads or writes
-# the user's real settings. Tests that bind or send UDP carry the label
+# offscreen with a home and configuration home of its own, so no test ever
+# reads or writes the user's real settings and tests running side by side
+# never share one (Qt's test mode keeps settings under $HOME/.qttest). Tests that bind or send UDP carry the label
 # "network"; scripts/test runs them only inside a private network namespace.
 function(talu_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
@@ -17,7 +18,7 @@ function(talu_add_test name)
     file(MAKE_DIRECTORY "${home}/runtime")
     file(CHMOD "${home}/runtime" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home}/runtime"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home}/runtime"
         TIMEOUT 300)
     if(ARG_LABELS)
         set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}")
