@@ -3,8 +3,9 @@
 # One Qt Test executable per test file, registered with CTest. Every test runs
 # offscreen with a home and configuration home of its own, so no test ever
 # reads or writes the user's real settings and tests running side by side
-# never share one (Qt's test mode keeps settings under $HOME/.qttest). Tests that bind or send UDP carry the label
-# "network"; scripts/test runs them only inside a private network namespace.
+# never share one (Qt's test mode keeps settings under $HOME/.qttest). Tests
+# that bind or send UDP carry the label "network"; scripts/test runs them only
+# inside a private network namespace.
 function(talu_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
