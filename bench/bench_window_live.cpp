@@ -7,7 +7,8 @@
 // packets/s without loss with at least 25 repaints a second; goal 180,000.
 //
 // Inside the private namespace only (the node broadcasts):
-//   QT_QPA_PLATFORM=offscreen scripts/netns build/bench/bench/bench_window_live [seconds] [rate,rate,...]
+//   QT_QPA_PLATFORM=offscreen scripts/netns build/bench/bench/bench_window_live [seconds] [rate,rate,...] [--log]
+// With --log the Network Log window is open and follows the stream.
 #include "app/mainwindow.h"
 #include "artdmxflood.h"
 #include "artnet/widgets/broadcastpanel.h"
@@ -58,7 +59,8 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     QStandardPaths::setTestModeEnabled(true); // never the user's settings
-    const QStringList args = QCoreApplication::arguments();
+    QStringList args = QCoreApplication::arguments();
+    const bool withLog = args.removeAll(QStringLiteral("--log")) > 0;
     const double seconds = args.value(1, QStringLiteral("5")).toDouble();
     QList<double> rates;
     for (const QString &r : args.value(2, QStringLiteral("100000,150000,180000")).split(QLatin1Char(',')))
@@ -94,6 +96,10 @@ int main(int argc, char **argv)
     }
     button(panel, "Record incoming stream")->click();
     panel->setRecordFolder(dir.path());
+    if (withLog) {
+        w.menuAction("Network Log...")->trigger();
+        std::printf("with the Network Log window open\n");
+    }
 
     // The longest gap between ticks of a 5 ms timer: how long the loop was away.
     QElapsedTimer loopClock;

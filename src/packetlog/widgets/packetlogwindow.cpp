@@ -71,6 +71,9 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidg
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->verticalHeader()->hide();
     m_view->verticalHeader()->setDefaultSectionSize(m_view->fontMetrics().height() + 4);
+    // One height for every row: the header then keeps no per-row sizes, and a
+    // batch of thousands of rows costs it nothing to take in.
+    m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->setWordWrap(false);
     // Widths from the widest text each column shows, so nothing is cut short
