@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/appsettings.h"
+#include "app/menutable.h"
 #include "monitor/pixelcolourbuffer.h"
 #include "patch/patchdata.h"
 #include "patch/patchloadresult.h"
@@ -8,15 +9,12 @@
 #include "recording/gpssyncset.h"
 
 #include <QElapsedTimer>
-#include <QKeySequence>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
 
 #include <functional>
 #include <memory>
-#include <utility>
-#include <vector>
 
 class QAction;
 class QCheckBox;
@@ -55,8 +53,8 @@ class UpdateController;
 // status line, settings), mainwindowpatch.cpp (patch loading),
 // mainwindowplayback.cpp (recorded playback and the monitor bar),
 // mainwindowgps.cpp (GPS-Sync sets), mainwindowlive.cpp (live broadcast and
-// recording), mainwindowmenus.cpp (menus, recent lists, shortcuts, help,
-// dropped files). GUI thread only.
+// recording), mainwindowlog.cpp (the network log), mainwindowmenus.cpp
+// (menus, recent lists, shortcuts, help, dropped files). GUI thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -185,20 +183,7 @@ private:
     void reportWhiteChannelState(bool on);
 
     // Menus (mainwindowmenus.cpp)
-    struct MenuEntry
-    {
-        QAction *action;
-        const char *text; // untranslated, for retranslation
-        const char *tip;  // untranslated; nullptr for none
-    };
     void buildMenus();
-    QMenu *addMenu(QMenu *parent, const char *title);
-    // Every entry is made here: text and tip untranslated (QT_TR_NOOP), so a
-    // language change can set them again.
-    QAction *addEntry(QMenu *menu, const char *text, const QKeySequence &shortcut, const char *tip = nullptr,
-                      const QString &icon = QString());
-    // Present, disabled, "Planned for a future version.", no shortcut.
-    void addPlanned(QMenu *menu, const char *text);
     void retranslateMenus();
     void fillRecentMenu(QMenu *menu, const QString &key, bool isPatch);
     // Sets the checkable entries from the state they mirror (boxes, tabs, node).
@@ -264,8 +249,7 @@ private:
     Led3DView *m_view3d = nullptr;
 
     // Menus
-    std::vector<MenuEntry> m_menuEntries;
-    std::vector<std::pair<QMenu *, const char *>> m_menuTitles;
+    MenuTable m_menus{menuBar()};
     QMenu *m_recentPatchesMenu = nullptr;
     QMenu *m_recentRecordingsMenu = nullptr;
     QList<QAction *> m_playbackActions;  // enabled in Recorded playback

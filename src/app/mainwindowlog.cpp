@@ -53,9 +53,9 @@ void MainWindow::showNetworkLog()
 
 void MainWindow::openNetworkLog()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open Network Log"), QFileInfo(m_networkLogPath).absolutePath(),
-        tr("Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open Network Log"), QFileInfo(m_networkLogPath).absolutePath(),
+                                     tr("Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)"));
     if (!path.isEmpty())
         openNetworkLogFile(path);
 }
@@ -126,8 +126,8 @@ void MainWindow::saveNetworkLogAs()
     const SaveType &type = kSaveTypes[std::max<qsizetype>(0, filters.indexOf(chosenFilter))];
     if (QFileInfo(path).suffix().isEmpty())
         path += QLatin1Char('.') + QLatin1String(type.suffix);
-    if (saveLog(window, path, QString::fromLatin1(type.format)) && type.format == QLatin1String("tlog")
-        && window == m_logWindow)
+    if (saveLog(window, path, QString::fromLatin1(type.format)) && type.format == QLatin1String("tlog") &&
+        window == m_logWindow)
         m_networkLogPath = path;
 }
 
@@ -139,12 +139,12 @@ bool MainWindow::saveLog(PacketLogWindow *window, const QString &path, const QSt
     const PacketListModel *model = window->model();
     bool onlyShown = false;
     if (model->rowCount() < model->recordCount()) {
-        const auto answer = QMessageBox::question(
-            this, tr("Save Network Log"),
-            tr("The filter shows %1 of %2 records. Save only the records it shows?")
-                .arg(model->rowCount())
-                .arg(model->recordCount()),
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+        const auto answer =
+            QMessageBox::question(this, tr("Save Network Log"),
+                                  tr("The filter shows %1 of %2 records. Save only the records it shows?")
+                                      .arg(model->rowCount())
+                                      .arg(model->recordCount()),
+                                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
         if (answer == QMessageBox::Cancel)
             return false;
         onlyShown = answer == QMessageBox::Yes;
@@ -153,7 +153,8 @@ bool MainWindow::saveLog(PacketLogWindow *window, const QString &path, const QSt
     const bool saved =
         PacketLog::savePacketLog(path, format, onlyShown ? model->shownRecords() : model->records(), &error);
     if (!saved) {
-        QMessageBox::warning(this, tr("Save Network Log"), tr("Could not write %1: %2").arg(path, error.text()));
+        QMessageBox::warning(this, tr("Save Network Log"),
+                             tr("Could not write %1: %2").arg(path, error.text()));
         return false;
     }
     const qint64 count = onlyShown ? model->rowCount() : model->recordCount();

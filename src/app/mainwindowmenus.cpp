@@ -5,12 +5,12 @@
 
 #include "app/updater.h"
 #include "i18n/translator.h"
+#include "live/livepipeline.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
 #include "panels/gpsplaybackpanel.h"
 #include "panels/patchbar.h"
 #include "panels/playbackpanel.h"
-#include "live/livepipeline.h"
 #include "patch/importreport.h"
 #include "recording/playbackclock.h"
 #include "style/moxstyle.h"
@@ -52,17 +52,24 @@
 
 namespace {
 
-const char *const kPlannedTip = QT_TRANSLATE_NOOP("MainWindow", "Planned for a future version.");
 const QUrl kWebsite(QStringLiteral("https://torvane.example/talu"));
 
-enum MonitorTab { View2DTab = 0, View3DTab = 1 };
-enum PlaybackTab { StandardTab = 0, GpsTab = 1 };
+enum MonitorTab
+{
+    View2DTab = 0,
+    View3DTab = 1
+};
+enum PlaybackTab
+{
+    StandardTab = 0,
+    GpsTab = 1
+};
 
 bool isPatchFile(const QString &path)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
-    return suffix == QLatin1String("tpatch") || suffix == QLatin1String("mpz") || suffix == QLatin1String("elm")
-           || suffix == QLatin1String("elmbackup");
+    return suffix == QLatin1String("tpatch") || suffix == QLatin1String("mpz") ||
+           suffix == QLatin1String("elm") || suffix == QLatin1String("elmbackup");
 }
 
 bool isRecordingFile(const QString &path)
@@ -101,126 +108,110 @@ QDialog *openPlainDialog(QWidget *parent, const QString &objectName, const QStri
 
 } // namespace
 
-QMenu *MainWindow::addMenu(QMenu *parent, const char *title)
-{
-    QMenu *menu = parent ? parent->addMenu(QString()) : menuBar()->addMenu(QString());
-    m_menuTitles.emplace_back(menu, title);
-    return menu;
-}
-
-QAction *MainWindow::addEntry(QMenu *menu, const char *text, const QKeySequence &shortcut, const char *tip,
-                              const QString &icon)
-{
-    auto *action = menu->addAction(QString());
-    if (!icon.isEmpty())
-        action->setIcon(QIcon(icon));
-    action->setShortcut(shortcut);
-    m_menuEntries.push_back({action, text, tip});
-    return action;
-}
-
-void MainWindow::addPlanned(QMenu *menu, const char *text)
-{
-    addEntry(menu, text, QKeySequence(), kPlannedTip)->setEnabled(false);
-}
-
 QAction *MainWindow::menuAction(const char *text) const
 {
-    for (const MenuEntry &entry : m_menuEntries)
-        if (qstrcmp(entry.text, text) == 0)
-            return entry.action;
-    return nullptr;
+    return m_menus.action(text);
 }
 
 void MainWindow::buildMenus()
 {
-    QMenu *file = addMenu(nullptr, QT_TR_NOOP("&File"));
-    connect(addEntry(file, QT_TR_NOOP("Open Patch..."), QKeySequence::Open, nullptr,
-                     QStringLiteral(":/icons/open-patch.png")),
+    QMenu *file = m_menus.addMenu(nullptr, QT_TR_NOOP("&File"));
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Open Patch..."), QKeySequence::Open, nullptr,
+                             QStringLiteral(":/icons/open-patch.png")),
             &QAction::triggered, this, &MainWindow::openPatchDialog);
-    connect(addEntry(file, QT_TR_NOOP("Open Recording..."), QKeySequence(QStringLiteral("Ctrl+Shift+O")), nullptr,
-                     QStringLiteral(":/icons/open.png")),
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Open Recording..."),
+                             QKeySequence(QStringLiteral("Ctrl+Shift+O")), nullptr,
+                             QStringLiteral(":/icons/open.png")),
             &QAction::triggered, this, &MainWindow::openRecordingDialog);
-    connect(addEntry(file, QT_TR_NOOP("Open GPS-Sync Set Folder..."), QKeySequence(),
-                     QT_TR_NOOP("Match every group of the loaded patch with its <name>_<Group>.tpx file in a folder.")),
+    connect(m_menus.addEntry(
+                file, QT_TR_NOOP("Open GPS-Sync Set Folder..."), QKeySequence(),
+                QT_TR_NOOP(
+                    "Match every group of the loaded patch with its <name>_<Group>.tpx file in a folder.")),
             &QAction::triggered, this, &MainWindow::openGpsFolder);
-    m_recentPatchesMenu = addMenu(file, QT_TR_NOOP("Recent Patches"));
-    m_recentRecordingsMenu = addMenu(file, QT_TR_NOOP("Recent Recordings"));
+    m_recentPatchesMenu = m_menus.addMenu(file, QT_TR_NOOP("Recent Patches"));
+    m_recentRecordingsMenu = m_menus.addMenu(file, QT_TR_NOOP("Recent Recordings"));
     file->addSeparator();
-    connect(addEntry(file, QT_TR_NOOP("Open Network Log..."), QKeySequence()), &QAction::triggered, this,
-            &MainWindow::openNetworkLog);
-    connect(addEntry(file, QT_TR_NOOP("Save Network Log"), QKeySequence::Save, nullptr,
-                     QStringLiteral(":/icons/save.png")),
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Open Network Log..."), QKeySequence()), &QAction::triggered,
+            this, &MainWindow::openNetworkLog);
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Save Network Log"), QKeySequence::Save, nullptr,
+                             QStringLiteral(":/icons/save.png")),
             &QAction::triggered, this, &MainWindow::saveNetworkLog);
-    connect(addEntry(file, QT_TR_NOOP("Save Network Log As..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")), nullptr,
-                     QStringLiteral(":/icons/save-as.png")),
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Save Network Log As..."),
+                             QKeySequence(QStringLiteral("Ctrl+Shift+S")), nullptr,
+                             QStringLiteral(":/icons/save-as.png")),
             &QAction::triggered, this, &MainWindow::saveNetworkLogAs);
     file->addSeparator();
-    connect(addEntry(file, QT_TR_NOOP("Save Monitor Snapshot..."), QKeySequence()), &QAction::triggered, this,
-            &MainWindow::onSaveSnapshot);
-    addPlanned(file, QT_TR_NOOP("Export Patch Report..."));
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Save Monitor Snapshot..."), QKeySequence()),
+            &QAction::triggered, this, &MainWindow::onSaveSnapshot);
+    m_menus.addPlanned(file, QT_TR_NOOP("Export Patch Report..."));
     file->addSeparator();
-    connect(addEntry(file, QT_TR_NOOP("Exit"), QKeySequence(QStringLiteral("Ctrl+Q")), nullptr,
-                     QStringLiteral(":/icons/exit_icon.png")),
+    connect(m_menus.addEntry(file, QT_TR_NOOP("Exit"), QKeySequence(QStringLiteral("Ctrl+Q")), nullptr,
+                             QStringLiteral(":/icons/exit_icon.png")),
             &QAction::triggered, this, &MainWindow::close);
 
-    QMenu *edit = addMenu(nullptr, QT_TR_NOOP("&Edit"));
-    connect(addEntry(edit, QT_TR_NOOP("Network Log..."), QKeySequence(QStringLiteral("Ctrl+L")),
-                     QT_TR_NOOP("See every packet this node receives and sends."),
-                     QStringLiteral(":/icons/network_log_icon.png")),
+    QMenu *edit = m_menus.addMenu(nullptr, QT_TR_NOOP("&Edit"));
+    connect(m_menus.addEntry(edit, QT_TR_NOOP("Network Log..."), QKeySequence(QStringLiteral("Ctrl+L")),
+                             QT_TR_NOOP("See every packet this node receives and sends."),
+                             QStringLiteral(":/icons/network_log_icon.png")),
             &QAction::triggered, this, &MainWindow::showNetworkLog);
-    connect(addEntry(edit, QT_TR_NOOP("Copy Monitor Image"), QKeySequence(QStringLiteral("Ctrl+Shift+C"))),
+    connect(m_menus.addEntry(edit, QT_TR_NOOP("Copy Monitor Image"),
+                             QKeySequence(QStringLiteral("Ctrl+Shift+C"))),
             &QAction::triggered, this, &MainWindow::copyMonitorImage);
-    connect(addEntry(edit, QT_TR_NOOP("Interface Theme..."), QKeySequence(), nullptr,
-                     QStringLiteral(":/icons/settings.png")),
+    connect(m_menus.addEntry(edit, QT_TR_NOOP("Interface Theme..."), QKeySequence(), nullptr,
+                             QStringLiteral(":/icons/settings.png")),
             &QAction::triggered, this, &MainWindow::chooseTheme);
-    addPlanned(edit, QT_TR_NOOP("Preferences..."));
+    m_menus.addPlanned(edit, QT_TR_NOOP("Preferences..."));
 
-    QMenu *view = addMenu(nullptr, QT_TR_NOOP("&View"));
+    QMenu *view = m_menus.addMenu(nullptr, QT_TR_NOOP("&View"));
     auto *views = new QActionGroup(this);
     for (const auto &[text, key, tab] : {std::tuple{QT_TR_NOOP("2D Monitor"), "Ctrl+1", int(View2DTab)},
                                          std::tuple{QT_TR_NOOP("3D Monitor"), "Ctrl+2", int(View3DTab)}}) {
-        QAction *action = addEntry(view, text, QKeySequence(QString::fromLatin1(key)));
+        QAction *action = m_menus.addEntry(view, text, QKeySequence(QString::fromLatin1(key)));
         action->setCheckable(true);
         views->addAction(action);
-        connect(action, &QAction::triggered, this, [this, tab = tab] { m_monitorTabs->setCurrentIndex(tab); });
+        connect(action, &QAction::triggered, this,
+                [this, tab = tab] { m_monitorTabs->setCurrentIndex(tab); });
     }
-    connect(addEntry(view, QT_TR_NOOP("Fit to View"), QKeySequence(QStringLiteral("Ctrl+0")), nullptr,
-                     QStringLiteral(":/icons/fit_to_window.png")),
+    connect(m_menus.addEntry(view, QT_TR_NOOP("Fit to View"), QKeySequence(QStringLiteral("Ctrl+0")), nullptr,
+                             QStringLiteral(":/icons/fit_to_window.png")),
             &QAction::triggered, this, &MainWindow::onFitToView);
-    QMenu *camera = addMenu(view, QT_TR_NOOP("3D Camera"));
-    connect(addEntry(camera, QT_TR_NOOP("Reset Camera"), QKeySequence()), &QAction::triggered, m_view3d,
-            &Led3DView::reset);
+    QMenu *camera = m_menus.addMenu(view, QT_TR_NOOP("3D Camera"));
+    connect(m_menus.addEntry(camera, QT_TR_NOOP("Reset Camera"), QKeySequence()), &QAction::triggered,
+            m_view3d, &Led3DView::reset);
     // These mirror the monitor bar's boxes: the box is the state, the entry clicks it.
     for (const auto &[text, box] : {std::pair{QT_TR_NOOP("Show Axes"), m_axesCheck},
                                     std::pair{QT_TR_NOOP("Fast Draw"), m_fastDrawCheck},
                                     std::pair{QT_TR_NOOP("Auto Orbit"), m_autoOrbitCheck}}) {
-        QAction *action = addEntry(camera, text, QKeySequence());
+        QAction *action = m_menus.addEntry(camera, text, QKeySequence());
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [box = box] { box->click(); });
     }
-    QAction *white = addEntry(view, QT_TR_NOOP("White Channels"), QKeySequence());
+    QAction *white = m_menus.addEntry(view, QT_TR_NOOP("White Channels"), QKeySequence());
     white->setCheckable(true);
     connect(white, &QAction::triggered, this, [this] { m_whiteCheck->click(); });
-    QAction *fullScreen = addEntry(view, QT_TR_NOOP("Full Screen"), QKeySequence(QStringLiteral("F11")));
+    QAction *fullScreen =
+        m_menus.addEntry(view, QT_TR_NOOP("Full Screen"), QKeySequence(QStringLiteral("F11")));
     fullScreen->setCheckable(true);
     connect(fullScreen, &QAction::triggered, this,
             [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
 
-    QMenu *playback = addMenu(nullptr, QT_TR_NOOP("&Playback"));
-    QAction *playPause = addEntry(playback, QT_TR_NOOP("Play / Pause"), QKeySequence(Qt::Key_Space), nullptr,
-                                  QStringLiteral(":/icons/play.png"));
+    QMenu *playback = m_menus.addMenu(nullptr, QT_TR_NOOP("&Playback"));
+    QAction *playPause = m_menus.addEntry(playback, QT_TR_NOOP("Play / Pause"), QKeySequence(Qt::Key_Space),
+                                          nullptr, QStringLiteral(":/icons/play.png"));
     connect(playPause, &QAction::triggered, this, &MainWindow::onPlayPause);
-    QAction *rewind = addEntry(playback, QT_TR_NOOP("Rewind"), QKeySequence(Qt::Key_Home));
+    QAction *rewind = m_menus.addEntry(playback, QT_TR_NOOP("Rewind"), QKeySequence(Qt::Key_Home));
     connect(rewind, &QAction::triggered, this, &MainWindow::onStopPlayback);
-    QAction *previous = addEntry(playback, QT_TR_NOOP("Previous Frame"), QKeySequence(QStringLiteral("Ctrl+Left")));
+    QAction *previous =
+        m_menus.addEntry(playback, QT_TR_NOOP("Previous Frame"), QKeySequence(QStringLiteral("Ctrl+Left")));
     connect(previous, &QAction::triggered, this, [this] { stepFrame(-1); });
-    QAction *next = addEntry(playback, QT_TR_NOOP("Next Frame"), QKeySequence(QStringLiteral("Ctrl+Right")));
+    QAction *next =
+        m_menus.addEntry(playback, QT_TR_NOOP("Next Frame"), QKeySequence(QStringLiteral("Ctrl+Right")));
     connect(next, &QAction::triggered, this, [this] { stepFrame(1); });
-    QAction *goTo = addEntry(playback, QT_TR_NOOP("Go to Frame..."), QKeySequence(QStringLiteral("Ctrl+G")));
+    QAction *goTo =
+        m_menus.addEntry(playback, QT_TR_NOOP("Go to Frame..."), QKeySequence(QStringLiteral("Ctrl+G")));
     connect(goTo, &QAction::triggered, this, &MainWindow::goToFrame);
     playback->addSeparator();
-    QAction *loop = addEntry(playback, QT_TR_NOOP("Loop"), QKeySequence());
+    QAction *loop = m_menus.addEntry(playback, QT_TR_NOOP("Loop"), QKeySequence());
     loop->setCheckable(true);
     connect(loop, &QAction::triggered, this, [this](bool on) {
         // The panels set their box quietly; the clock of a running playback is told here.
@@ -234,51 +225,57 @@ void MainWindow::buildMenus()
     auto *tabs = new QActionGroup(this);
     for (const auto &[text, tab] : {std::pair{QT_TR_NOOP("Standard Art-Net"), int(StandardTab)},
                                     std::pair{QT_TR_NOOP("GPS Mirra Set"), int(GpsTab)}}) {
-        QAction *action = addEntry(playback, text, QKeySequence());
+        QAction *action = m_menus.addEntry(playback, text, QKeySequence());
         action->setCheckable(true);
         tabs->addAction(action);
-        connect(action, &QAction::triggered, this, [this, tab = tab] { m_playbackTabs->setCurrentIndex(tab); });
+        connect(action, &QAction::triggered, this,
+                [this, tab = tab] { m_playbackTabs->setCurrentIndex(tab); });
         m_playbackActions << action;
     }
     // Play / Pause stays enabled in Live broadcast: pressed there it says why it does nothing.
     m_playbackActions << rewind << previous << next << goTo << loop;
 
-    QMenu *broadcast = addMenu(nullptr, QT_TR_NOOP("&Broadcast"));
-    QAction *listen = addEntry(broadcast, QT_TR_NOOP("Listen for Art-Net"), QKeySequence(QStringLiteral("Ctrl+Shift+L")));
+    QMenu *broadcast = m_menus.addMenu(nullptr, QT_TR_NOOP("&Broadcast"));
+    QAction *listen = m_menus.addEntry(broadcast, QT_TR_NOOP("Listen for Art-Net"),
+                                       QKeySequence(QStringLiteral("Ctrl+Shift+L")));
     listen->setCheckable(true);
     connect(listen, &QAction::triggered, this, &MainWindow::toggleListening);
-    QAction *record = addEntry(broadcast, QT_TR_NOOP("Record Incoming Stream"),
-                               QKeySequence(QStringLiteral("Ctrl+Shift+R")));
+    QAction *record = m_menus.addEntry(broadcast, QT_TR_NOOP("Record Incoming Stream"),
+                                       QKeySequence(QStringLiteral("Ctrl+Shift+R")));
     record->setCheckable(true);
     connect(record, &QAction::triggered, this, &MainWindow::toggleRecording);
-    QAction *announce = addEntry(broadcast, QT_TR_NOOP("Announce Node Now"), QKeySequence(),
-                                 QT_TR_NOOP("Broadcast an ArtPollReply immediately instead of waiting for the next poll."));
+    QAction *announce = m_menus.addEntry(
+        broadcast, QT_TR_NOOP("Announce Node Now"), QKeySequence(),
+        QT_TR_NOOP("Broadcast an ArtPollReply immediately instead of waiting for the next poll."));
     connect(announce, &QAction::triggered, this, &MainWindow::announceNow);
-    QAction *refresh = addEntry(broadcast, QT_TR_NOOP("Refresh Network Interfaces"), QKeySequence());
+    QAction *refresh = m_menus.addEntry(broadcast, QT_TR_NOOP("Refresh Network Interfaces"), QKeySequence());
     connect(refresh, &QAction::triggered, this, &MainWindow::refreshInterfaces);
     m_broadcastActions << listen << record << announce << refresh;
     broadcast->addSeparator();
-    addPlanned(broadcast, QT_TR_NOOP("Node Discovery (ArtPoll Scan)..."));
-    addPlanned(broadcast, QT_TR_NOOP("Test Signal Generator..."));
-    addPlanned(broadcast, QT_TR_NOOP("sACN (E1.31) Input"));
+    m_menus.addPlanned(broadcast, QT_TR_NOOP("Node Discovery (ArtPoll Scan)..."));
+    m_menus.addPlanned(broadcast, QT_TR_NOOP("Test Signal Generator..."));
+    m_menus.addPlanned(broadcast, QT_TR_NOOP("sACN (E1.31) Input"));
 
-    QMenu *help = addMenu(nullptr, QT_TR_NOOP("&Help"));
-    connect(addEntry(help, QT_TR_NOOP("Language..."), QKeySequence()), &QAction::triggered, this,
+    QMenu *help = m_menus.addMenu(nullptr, QT_TR_NOOP("&Help"));
+    connect(m_menus.addEntry(help, QT_TR_NOOP("Language..."), QKeySequence()), &QAction::triggered, this,
             &MainWindow::chooseLanguage);
-    connect(addEntry(help, QT_TR_NOOP("Website"), QKeySequence()), &QAction::triggered, this,
+    connect(m_menus.addEntry(help, QT_TR_NOOP("Website"), QKeySequence()), &QAction::triggered, this,
             [] { QDesktopServices::openUrl(kWebsite); });
-    connect(addEntry(help, QT_TR_NOOP("Release Notes"), QKeySequence()), &QAction::triggered, this,
+    connect(m_menus.addEntry(help, QT_TR_NOOP("Release Notes"), QKeySequence()), &QAction::triggered, this,
             &MainWindow::showReleaseNotes);
-    connect(addEntry(help, QT_TR_NOOP("Keyboard Shortcuts"), QKeySequence(QStringLiteral("F1"))),
+    connect(m_menus.addEntry(help, QT_TR_NOOP("Keyboard Shortcuts"), QKeySequence(QStringLiteral("F1"))),
             &QAction::triggered, this, &MainWindow::showShortcuts);
-    connect(addEntry(help, QT_TR_NOOP("Open Logs Folder"), QKeySequence(),
-                     QT_TR_NOOP("Patches that produced import warnings are kept here together with the messages.")),
-            &QAction::triggered, this, &MainWindow::openLogsFolder);
+    connect(
+        m_menus.addEntry(
+            help, QT_TR_NOOP("Open Logs Folder"), QKeySequence(),
+            QT_TR_NOOP("Patches that produced import warnings are kept here together with the messages.")),
+        &QAction::triggered, this, &MainWindow::openLogsFolder);
     help->addSeparator();
-    addPlanned(help, QT_TR_NOOP("User Manual"));
-    connect(addEntry(help, QT_TR_NOOP("Check for Updates..."), QKeySequence()), &QAction::triggered, this,
-            [this] { m_updates->checkNow(); });
-    connect(addEntry(help, QT_TR_NOOP("About"), QKeySequence(), nullptr, QStringLiteral(":/icons/information.png")),
+    m_menus.addPlanned(help, QT_TR_NOOP("User Manual"));
+    connect(m_menus.addEntry(help, QT_TR_NOOP("Check for Updates..."), QKeySequence()), &QAction::triggered,
+            this, [this] { m_updates->checkNow(); });
+    connect(m_menus.addEntry(help, QT_TR_NOOP("About"), QKeySequence(), nullptr,
+                             QStringLiteral(":/icons/information.png")),
             &QAction::triggered, this, &MainWindow::showAbout);
 
     for (QMenu *menu : menuBar()->findChildren<QMenu *>())
@@ -297,14 +294,7 @@ void MainWindow::buildMenus()
 
 void MainWindow::retranslateMenus()
 {
-    for (const auto &[menu, title] : m_menuTitles)
-        menu->setTitle(tr(title));
-    for (const MenuEntry &entry : m_menuEntries) {
-        entry.action->setText(tr(entry.text));
-        const QString tip = entry.tip ? tr(entry.tip) : QString();
-        entry.action->setToolTip(tip.isEmpty() ? entry.action->iconText() : tip);
-        entry.action->setStatusTip(tip);
-    }
+    m_menus.retranslate();
     fillRecentMenu(m_recentPatchesMenu, SettingsKey::recentPatches, true);
     fillRecentMenu(m_recentRecordingsMenu, SettingsKey::recentRecordings, false);
 }
@@ -360,10 +350,8 @@ void MainWindow::fillRecentMenu(QMenu *menu, const QString &key, bool isPatch)
     for (qsizetype i = 0; i < paths.size(); ++i) {
         const QString path = paths.at(i);
         // Numbered from 1 so the first entry is Alt+1; "&&" keeps an ampersand in a path visible.
-        QAction *entry = menu->addAction(QStringLiteral("&%1  %2")
-                                             .arg(i + 1)
-                                             .arg(QDir::toNativeSeparators(path).replace(QLatin1Char('&'),
-                                                                                         QLatin1String("&&"))));
+        QAction *entry = menu->addAction(QStringLiteral("&%1  %2").arg(i + 1).arg(
+            QDir::toNativeSeparators(path).replace(QLatin1Char('&'), QLatin1String("&&"))));
         // Queued: the workflow may rebuild this very menu while the entry is still being triggered.
         connect(entry, &QAction::triggered, this, [this, path, isPatch] {
             QMetaObject::invokeMethod(
@@ -374,8 +362,8 @@ void MainWindow::fillRecentMenu(QMenu *menu, const QString &key, bool isPatch)
     menu->addSeparator();
     connect(menu->addAction(tr("Clear List")), &QAction::triggered, this, [this, menu, key, isPatch] {
         openSettings()->remove(key);
-        QMetaObject::invokeMethod(this, [this, menu, key, isPatch] { fillRecentMenu(menu, key, isPatch); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, menu, key, isPatch] { fillRecentMenu(menu, key, isPatch); }, Qt::QueuedConnection);
     });
 }
 
@@ -396,9 +384,9 @@ void MainWindow::openRecording(const QString &path)
 void MainWindow::openPatchDialog()
 {
     const QString start = m_patchPath.isEmpty() ? m_patchBar->path() : m_patchPath;
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open Patch"), QFileInfo(start).absolutePath(),
-        tr("Patches (*.tpatch *.mpz *.elm *.elmbackup);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open Patch"), QFileInfo(start).absolutePath(),
+                                     tr("Patches (*.tpatch *.mpz *.elm *.elmbackup);;All files (*)"));
     if (!path.isEmpty())
         openPatch(path);
 }
@@ -475,7 +463,7 @@ QString MainWindow::proposedSnapshotPath() const
 void MainWindow::copyMonitorImage()
 {
     QGuiApplication::clipboard()->setImage(m_monitorTabs->currentIndex() == View3DTab ? m_view3d->snapshot()
-                                                                                       : m_view2d->snapshot());
+                                                                                      : m_view2d->snapshot());
     showStatus([] { return tr("Monitor image copied to the clipboard."); }, 4000);
 }
 
@@ -485,7 +473,8 @@ void MainWindow::applyTheme(const QString &id)
     m_style->install(*qApp);
     const QString applied = m_style->currentThemeId();
     openSettings()->setValue(SettingsKey::theme, applied);
-    showStatus([applied] { return tr("Interface theme: %1").arg(MoxStyle::themeDisplayName(applied)); }, 4000);
+    showStatus([applied] { return tr("Interface theme: %1").arg(MoxStyle::themeDisplayName(applied)); },
+               4000);
 }
 
 void MainWindow::chooseTheme()
@@ -562,20 +551,16 @@ void MainWindow::showShortcuts()
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
     // Built from the menus themselves, so the table can never disagree with them.
-    for (const MenuEntry &entry : m_menuEntries) {
-        if (entry.action->shortcut().isEmpty())
-            continue;
+    for (const auto &[text, shortcut] : m_menus.shortcutRows()) {
         const int row = table->rowCount();
         table->insertRow(row);
-        QString text = entry.action->text();
-        text.remove(QLatin1Char('&'));
         table->setItem(row, 0, new QTableWidgetItem(text));
-        table->setItem(row, 1, new QTableWidgetItem(entry.action->shortcut().toString(QKeySequence::NativeText)));
+        table->setItem(row, 1, new QTableWidgetItem(shortcut));
     }
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
-    m_shortcutsDialog = openPlainDialog(this, QStringLiteral("shortcutsDialog"), tr("Keyboard Shortcuts"), table,
-                                        QSize(440, 600));
+    m_shortcutsDialog = openPlainDialog(this, QStringLiteral("shortcutsDialog"), tr("Keyboard Shortcuts"),
+                                        table, QSize(440, 600));
 }
 
 void MainWindow::showReleaseNotes()
@@ -615,15 +600,18 @@ void MainWindow::showAbout()
     box->setObjectName(QStringLiteral("aboutBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowTitle(tr("About Torvane TALU"));
-    box->setIconPixmap(QPixmap(QStringLiteral(":/icons/logo.png")).scaled(64, 64, Qt::KeepAspectRatio,
-                                                                          Qt::SmoothTransformation));
+    box->setIconPixmap(QPixmap(QStringLiteral(":/icons/logo.png"))
+                           .scaled(64, 64, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     box->setTextFormat(Qt::RichText);
-    box->setText(QStringLiteral("<h3>Torvane TALU %1</h3><p>%2</p>")
-                     .arg(QStringLiteral(TALU_VERSION).toHtmlEscaped(),
-                          tr("See what an LED installation shows for a stream of Art-Net DMX data.").toHtmlEscaped()));
+    box->setText(
+        QStringLiteral("<h3>Torvane TALU %1</h3><p>%2</p>")
+            .arg(QStringLiteral(TALU_VERSION).toHtmlEscaped(),
+                 tr("See what an LED installation shows for a stream of Art-Net DMX data.").toHtmlEscaped()));
     box->setInformativeText(
         QStringLiteral("<p>%1</p><p>%2</p><p>%3</p><ul><li>%4</li><li>%5</li></ul><p>%6</p>")
-            .arg(tr("Version %1, built %2.").arg(QStringLiteral(TALU_VERSION), QStringLiteral(__DATE__)).toHtmlEscaped(),
+            .arg(tr("Version %1, built %2.")
+                     .arg(QStringLiteral(TALU_VERSION), QStringLiteral(__DATE__))
+                     .toHtmlEscaped(),
                  tr("Running on Qt %1.").arg(QString::fromLatin1(qVersion())).toHtmlEscaped(),
                  tr("This program uses:").toHtmlEscaped(),
                  tr("Qt %1 (The Qt Company), under the GNU Lesser General Public License version 3.")

@@ -111,7 +111,8 @@ void UpdateController::onFinished(const UpdateCheckResult &result)
         QPushButton *ignore = box->addButton(tr("Ignore This Version"), QMessageBox::RejectRole);
         box->addButton(tr("Later"), QMessageBox::RejectRole);
         box->setDefaultButton(download);
-        connect(download, &QPushButton::clicked, this, [feed] { QDesktopServices::openUrl(feed.downloadPage); });
+        connect(download, &QPushButton::clicked, this,
+                [feed] { QDesktopServices::openUrl(feed.downloadPage); });
         connect(ignore, &QPushButton::clicked, this,
                 [feed] { openSettings()->setValue(SettingsKey::updateIgnoredVersion, feed.version); });
     }

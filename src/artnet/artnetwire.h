@@ -30,9 +30,14 @@ constexpr int kMaxDatagramSize = 65507;
 
 // The two shapes a DMX packet (and a recorded record) comes in; the values
 // are those the recording format stores.
-enum class DmxFlavour : quint8 { ArtNet = 0, Kel = 1 };
+enum class DmxFlavour : quint8
+{
+    ArtNet = 0,
+    Kel = 1
+};
 
-enum class DatagramKind {
+enum class DatagramKind
+{
     Ignored,   // too short, foreign, malformed or an OpCode this node does not handle
     Poll,      // ArtPoll: answer with the reply set
     PollReply, // another node's ArtPollReply: dropped without counting
@@ -65,8 +70,8 @@ bool isSequenceError(quint8 last, quint8 sequence);
 // True when the Art-Net ID starts at offset (false when the bytes end first).
 inline bool hasIdAt(QByteArrayView bytes, qsizetype offset)
 {
-    return offset >= 0 && bytes.size() >= offset + qsizetype(sizeof kId)
-           && std::memcmp(bytes.data() + offset, kId, sizeof kId) == 0;
+    return offset >= 0 && bytes.size() >= offset + qsizetype(sizeof kId) &&
+           std::memcmp(bytes.data() + offset, kId, sizeof kId) == 0;
 }
 
 } // namespace ArtNet

@@ -29,7 +29,8 @@ public:
     }
     void addHex(const char *name, int offset, int length, quint32 value, int digits)
     {
-        add(name, offset, length, QStringLiteral("0x") + QStringLiteral("%1").arg(value, digits, 16, QLatin1Char('0')).toUpper());
+        add(name, offset, length,
+            QStringLiteral("0x") + QStringLiteral("%1").arg(value, digits, 16, QLatin1Char('0')).toUpper());
     }
     // A NUL-terminated text field of fixed size.
     void addText(const char *name, int offset, int length)
@@ -43,8 +44,10 @@ public:
     void addFlags(const char *name, int offset)
     {
         if (has(offset, 1))
-            add(name, offset, 1, QStringLiteral("0x%1 (%2)").arg(u8(offset), 2, 16, QLatin1Char('0'))
-                                     .arg(u8(offset), 8, 2, QLatin1Char('0')));
+            add(name, offset, 1,
+                QStringLiteral("0x%1 (%2)")
+                    .arg(u8(offset), 2, 16, QLatin1Char('0'))
+                    .arg(u8(offset), 8, 2, QLatin1Char('0')));
     }
 
     std::vector<DecodedField> fields;
@@ -67,7 +70,8 @@ void decodeDmx(Decoder &d, int at)
     d.addNumber("Sequence", at + 12, 1, d.has(at + 12, 1) ? d.u8(at + 12) : 0);
     d.addNumber("Physical", at + 13, 1, d.has(at + 13, 1) ? d.u8(at + 13) : 0);
     if (d.has(at + 14, 2))
-        d.add("Port-Address", at + 14, 2, portAddressText(quint16(d.u8(at + 14) | ((d.u8(at + 15) & 0x7F) << 8))));
+        d.add("Port-Address", at + 14, 2,
+              portAddressText(quint16(d.u8(at + 14) | ((d.u8(at + 15) & 0x7F) << 8))));
     if (d.has(at + 16, 2))
         d.addNumber("Length", at + 16, 2, d.be16(at + 16));
 }
@@ -81,7 +85,8 @@ void decodePoll(Decoder &d)
 void decodePollReply(Decoder &d)
 {
     if (d.has(10, 4))
-        d.add("IP address", 10, 4, QStringLiteral("%1.%2.%3.%4").arg(d.u8(10)).arg(d.u8(11)).arg(d.u8(12)).arg(d.u8(13)));
+        d.add("IP address", 10, 4,
+              QStringLiteral("%1.%2.%3.%4").arg(d.u8(10)).arg(d.u8(11)).arg(d.u8(12)).arg(d.u8(13)));
     d.addNumber("Port", 14, 2, d.has(14, 2) ? d.le16(14) : 0);
     d.addHex("VersInfo", 16, 2, d.has(16, 2) ? d.be16(16) : 0, 4);
     d.addNumber("NetSwitch", 18, 1, d.has(18, 1) ? d.u8(18) : 0);
@@ -94,11 +99,14 @@ void decodePollReply(Decoder &d)
     d.addText("NodeReport", 108, 64);
     d.addNumber("NumPorts", 172, 2, d.has(172, 2) ? d.be16(172) : 0);
     if (d.has(186, 4))
-        d.add("SwIn", 186, 4, QStringLiteral("%1 %2 %3 %4").arg(d.u8(186)).arg(d.u8(187)).arg(d.u8(188)).arg(d.u8(189)));
+        d.add("SwIn", 186, 4,
+              QStringLiteral("%1 %2 %3 %4").arg(d.u8(186)).arg(d.u8(187)).arg(d.u8(188)).arg(d.u8(189)));
     if (d.has(190, 4))
-        d.add("SwOut", 190, 4, QStringLiteral("%1 %2 %3 %4").arg(d.u8(190)).arg(d.u8(191)).arg(d.u8(192)).arg(d.u8(193)));
+        d.add("SwOut", 190, 4,
+              QStringLiteral("%1 %2 %3 %4").arg(d.u8(190)).arg(d.u8(191)).arg(d.u8(192)).arg(d.u8(193)));
     if (d.has(207, 4))
-        d.add("BindIp", 207, 4, QStringLiteral("%1.%2.%3.%4").arg(d.u8(207)).arg(d.u8(208)).arg(d.u8(209)).arg(d.u8(210)));
+        d.add("BindIp", 207, 4,
+              QStringLiteral("%1.%2.%3.%4").arg(d.u8(207)).arg(d.u8(208)).arg(d.u8(209)).arg(d.u8(210)));
     d.addNumber("BindIndex", 211, 1, d.has(211, 1) ? d.u8(211) : 0);
     d.addFlags("Status2", 212);
 }
@@ -123,8 +131,8 @@ std::vector<DecodedField> decodeArtNetFields(QByteArrayView bytes)
     const quint16 opcode = d.le16(at + 8);
     const QString name = opcodeName(opcode);
     d.add("OpCode", at + 8, 2,
-          QStringLiteral("0x") + QStringLiteral("%1").arg(opcode, 4, 16, QLatin1Char('0')).toUpper()
-              + (name.startsWith(QLatin1String("OpCode")) ? QString() : QStringLiteral(" (%1)").arg(name)));
+          QStringLiteral("0x") + QStringLiteral("%1").arg(opcode, 4, 16, QLatin1Char('0')).toUpper() +
+              (name.startsWith(QLatin1String("OpCode")) ? QString() : QStringLiteral(" (%1)").arg(name)));
     if (opcode == kOpPollReply) { // no ProtVer: the address follows the OpCode
         decodePollReply(d);
         return std::move(d.fields);

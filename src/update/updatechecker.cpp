@@ -58,14 +58,19 @@ void UpdateChecker::onFinished()
 
     UpdateCheckResult result;
     if (m_tooLarge) {
-        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is too large."));
+        result.error =
+            QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is too large."));
     } else if (reply->error() != QNetworkReply::NoError) {
         result.error = reply->errorString();
     } else {
         m_received += reply->readAll();
-        const UpdateFeedResult parsed = m_received.size() > kMaxFeedBytes
-                                            ? UpdateFeedResult{false, {}, QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is too large."))}
-                                            : parseUpdateFeed(m_received);
+        const UpdateFeedResult parsed =
+            m_received.size() > kMaxFeedBytes
+                ? UpdateFeedResult{false,
+                                   {},
+                                   QString::fromLatin1(QT_TRANSLATE_NOOP(
+                                       "UpdateFeed", "The update information is too large."))}
+                : parseUpdateFeed(m_received);
         if (!parsed.ok) {
             result.error = parsed.error;
         } else {

@@ -11,10 +11,15 @@ class QNetworkReply;
 
 struct UpdateCheckResult
 {
-    enum class Kind { UpToDate, NewVersion, Failed };
+    enum class Kind
+    {
+        UpToDate,
+        NewVersion,
+        Failed
+    };
     Kind kind = Kind::Failed;
-    UpdateFeed feed;     // for UpToDate and NewVersion
-    QString error;       // for Failed: why (our own texts untranslated, context "UpdateFeed")
+    UpdateFeed feed; // for UpToDate and NewVersion
+    QString error;   // for Failed: why (our own texts untranslated, context "UpdateFeed")
 };
 Q_DECLARE_METATYPE(UpdateCheckResult)
 

@@ -24,19 +24,23 @@ UpdateFeedResult parseUpdateFeed(const QByteArray &document)
     QJsonParseError parseError;
     const QJsonDocument json = QJsonDocument::fromJson(document, &parseError);
     if (parseError.error != QJsonParseError::NoError || !json.isObject()) {
-        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is not readable."));
+        result.error =
+            QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information is not readable."));
         return result;
     }
     const QJsonObject object = json.object();
     const QString version = object.value(QStringLiteral("version")).toString().trimmed();
     if (!isDottedVersion(version)) {
-        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information names no valid version."));
+        result.error = QString::fromLatin1(
+            QT_TRANSLATE_NOOP("UpdateFeed", "The update information names no valid version."));
         return result;
     }
     const QUrl download(object.value(QStringLiteral("download")).toString().trimmed(), QUrl::StrictMode);
-    if (!download.isValid() || (download.scheme() != QLatin1String("https") && download.scheme() != QLatin1String("http"))
-        || download.host().isEmpty()) {
-        result.error = QString::fromLatin1(QT_TRANSLATE_NOOP("UpdateFeed", "The update information has no valid download page."));
+    if (!download.isValid() ||
+        (download.scheme() != QLatin1String("https") && download.scheme() != QLatin1String("http")) ||
+        download.host().isEmpty()) {
+        result.error = QString::fromLatin1(
+            QT_TRANSLATE_NOOP("UpdateFeed", "The update information has no valid download page."));
         return result;
     }
     result.ok = true;

@@ -113,7 +113,8 @@ void TestMainWindowLanguage::everyTextTranslatedAndBack()
             if (translated.contains(text))
                 english << where + QStringLiteral(": ") + text;
         }
-        QVERIFY2(english.isEmpty(), qPrintable(language + QStringLiteral(" still shows\n") + english.join('\n')));
+        QVERIFY2(english.isEmpty(),
+                 qPrintable(language + QStringLiteral(" still shows\n") + english.join('\n')));
     }
 
     translator.applyLanguage(QStringLiteral("en"));

@@ -173,8 +173,10 @@ void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
             QCOMPARE(menu, QString::fromLatin1(e.menu));
             QCOMPARE(action->text(), QString::fromLatin1(e.text));
             QCOMPARE(action->shortcut(), QKeySequence(QString::fromLatin1(e.shortcut)));
-            QVERIFY2(action->icon().pixmap(16).isNull() != e.icon, qPrintable(where)); // the resource is there
-            const bool enabled = e.state == 'a' || (e.state == 'r' && recorded) || (e.state == 'l' && !recorded);
+            QVERIFY2(action->icon().pixmap(16).isNull() != e.icon,
+                     qPrintable(where)); // the resource is there
+            const bool enabled =
+                e.state == 'a' || (e.state == 'r' && recorded) || (e.state == 'l' && !recorded);
             QVERIFY2(action->isEnabled() == enabled, qPrintable(where));
             if (e.state == 'p')
                 QCOMPARE(action->toolTip(), QStringLiteral("Planned for a future version."));
@@ -211,7 +213,8 @@ void TestMainWindowMenus::recentListsKeepEightNewestFirst()
     QCOMPARE(recentTexts(w, false).size(), 1); // an empty path loads nothing
     w.findChild<PlaybackPanel *>()->setPath(kDemoRecording);
     click(w.findChild<PlaybackPanel *>(), QStringLiteral("Load"));
-    QCOMPARE(recentTexts(w, false).first(), QStringLiteral("&1  ") + QDir::toNativeSeparators(kDemoRecording));
+    QCOMPARE(recentTexts(w, false).first(),
+             QStringLiteral("&1  ") + QDir::toNativeSeparators(kDemoRecording));
 
     // Eight more: the first one falls off, the newest is on top; paths are cleaned.
     for (int i = 1; i <= 8; ++i)
@@ -258,8 +261,8 @@ void TestMainWindowMenus::shortcutTableListsEveryShortcut()
         shown << table->item(row, 0)->text() + " = " + table->item(row, 1)->text();
     for (const Entry &e : kEntries)
         if (*e.shortcut)
-            expected << QString::fromLatin1(e.text).remove('&') + " = "
-                            + QKeySequence(QString::fromLatin1(e.shortcut)).toString(QKeySequence::NativeText);
+            expected << QString::fromLatin1(e.text).remove('&') + " = " +
+                            QKeySequence(QString::fromLatin1(e.shortcut)).toString(QKeySequence::NativeText);
     QCOMPARE(shown, expected);
 }
 
@@ -314,8 +317,9 @@ void TestMainWindowMenus::entriesMirrorTheMonitorBar()
     white->trigger();
     QVERIFY(whiteBox->isChecked());
     QVERIFY(white->isChecked());
-    QCOMPARE(status(w),
-             QStringLiteral("This patch has no W / CW / WW channels - white contribution has nothing to add."));
+    QCOMPARE(
+        status(w),
+        QStringLiteral("This patch has no W / CW / WW channels - white contribution has nothing to add."));
     click(&w, QStringLiteral("White channels"));
     QVERIFY(!white->isChecked());
     QCOMPARE(status(w), QStringLiteral("White channel contribution off."));
@@ -390,9 +394,9 @@ void TestMainWindowMenus::helpEntriesShowWhatTheySay()
     QCOMPARE(about->windowTitle(), QStringLiteral("About Torvane TALU"));
     QVERIFY(about->text().contains(QStringLiteral("Torvane TALU " TALU_VERSION)));
     const QString credits = about->informativeText();
-    for (const QString &part : {QStringLiteral("Running on Qt %1.").arg(qVersion()), QStringLiteral("zlib"),
-                                QStringLiteral("GNU Lesser General Public License version 3"),
-                                QStringLiteral("© 2026 Torvane")})
+    for (const QString &part :
+         {QStringLiteral("Running on Qt %1.").arg(qVersion()), QStringLiteral("zlib"),
+          QStringLiteral("GNU Lesser General Public License version 3"), QStringLiteral("© 2026 Torvane")})
         QVERIFY2(credits.contains(part), qPrintable(part));
     about->close();
 

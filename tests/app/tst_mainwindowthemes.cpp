@@ -6,8 +6,8 @@
 #include "windowdriver.h"
 
 #include <QLabel>
-#include <QTabWidget>
 #include <QStandardPaths>
+#include <QTabWidget>
 
 using namespace WindowDriver;
 
@@ -53,8 +53,8 @@ void TestMainWindowThemes::textReadsInEveryTheme()
         const QImage shown = w.grab().toImage();
         for (QWidget *widget : w.findChildren<QWidget *>()) {
             QString text;
-            if (auto *label = qobject_cast<QLabel *>(widget); label && label->textFormat() != Qt::RichText
-                                                                && !Qt::mightBeRichText(label->text()))
+            if (auto *label = qobject_cast<QLabel *>(widget);
+                label && label->textFormat() != Qt::RichText && !Qt::mightBeRichText(label->text()))
                 text = label->text();
             else if (qobject_cast<QCheckBox *>(widget) || qobject_cast<QRadioButton *>(widget))
                 text = static_cast<QAbstractButton *>(widget)->text();

@@ -38,8 +38,9 @@ protected:
                 return;
             socket->readAll();
             ++requests;
-            socket->write("HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nConnection: close\r\nContent-Length: "
-                          + QByteArray::number(body.size()) + "\r\n\r\n" + body);
+            socket->write(
+                "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nConnection: close\r\nContent-Length: " +
+                QByteArray::number(body.size()) + "\r\n\r\n" + body);
             socket->disconnectFromHost();
         });
     }
@@ -47,7 +48,8 @@ protected:
 
 QByteArray feed(const char *version)
 {
-    return QByteArray(R"({"version":")") + version + R"(","notes":"Recording is faster.","download":"https://t.example/"})";
+    return QByteArray(R"({"version":")") + version +
+           R"(","notes":"Recording is faster.","download":"https://t.example/"})";
 }
 
 } // namespace

@@ -40,7 +40,8 @@ QByteArray artDmx(quint16 portAddress, quint8 sequence, int channels = 4)
     return b;
 }
 
-PacketEvent packet(const QByteArray &bytes, Direction direction = Direction::In, Outcome outcome = Outcome::Ok)
+PacketEvent packet(const QByteArray &bytes, Direction direction = Direction::In,
+                   Outcome outcome = Outcome::Ok)
 {
     PacketEvent e;
     e.direction = direction;
@@ -163,7 +164,8 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
                                  "Physical = 0", "Port-Address = 0x0123 (Net 1, Sub-Net 2, Universe 3)",
                                  "Length = 4"}));
     auto *hex = window.findChild<QPlainTextEdit *>(QStringLiteral("packetHex"));
-    QVERIFY(hex->toPlainText().startsWith(QStringLiteral("0000  41 72 74 2d 4e 65 74 00 00 50 00 0e 07 00 23 01 ")));
+    QVERIFY(hex->toPlainText().startsWith(
+        QStringLiteral("0000  41 72 74 2d 4e 65 74 00 00 50 00 0e 07 00 23 01 ")));
     fields->setCurrentItem(fields->topLevelItem(5)); // Port-Address: bytes 14 and 15
     const QList<QTextEdit::ExtraSelection> marks = hex->extraSelections();
     QCOMPARE(marks.size(), 2);
@@ -180,13 +182,14 @@ void TestPacketLogWindow::rowsThatMustStandOut()
     QByteArray unknown = artDmx(1, 1);
     unknown[9] = char(0x7f); // OpCode 0x7f00
     journal.append(packet(artDmx(1, 5)));
-    journal.append(packet(artDmx(1, 3)));                                        // back: out of order
-    journal.append(packet(artDmx(1, 9), Direction::Out, Outcome::Failed));       // a failed send
+    journal.append(packet(artDmx(1, 3)));                                  // back: out of order
+    journal.append(packet(artDmx(1, 9), Direction::Out, Outcome::Failed)); // a failed send
     journal.append(packet(unknown));
-    journal.append(packet(artDmx(1, 10)));                                       // in order
+    journal.append(packet(artDmx(1, 10))); // in order
     window.poll();
     const auto colour = [&window](int row) {
-        return window.model()->data(window.model()->index(row, PacketListModel::InfoColumn), Qt::ForegroundRole);
+        return window.model()->data(window.model()->index(row, PacketListModel::InfoColumn),
+                                    Qt::ForegroundRole);
     };
     QVERIFY(!colour(0).isValid());
     QCOMPARE(colour(1).value<QBrush>().color(), style.roleColour(MoxStyle::WarningRole));

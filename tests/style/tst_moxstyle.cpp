@@ -32,10 +32,10 @@ void TestMoxStyle::textReadsOnItsBackground()
     // Where each text role is drawn: labels and message lines on the window,
     // fields and tables on base, the status bar's muted text on base, buttons.
     const std::pair<const char *, const char *> pairs[] = {
-        {"text", "window"},      {"text", "base"},        {"text", "button"},    {"mutedText", "window"},
-        {"mutedText", "base"},   {"hint", "window"},      {"accent", "window"},  {"accent", "base"},
-        {"info", "window"},      {"warning", "window"},   {"warning", "base"},   {"error", "window"},
-        {"error", "base"},       {"success", "window"},   {"success", "base"},   {"highlightedText", "highlight"},
+        {"text", "window"},    {"text", "base"},      {"text", "button"},   {"mutedText", "window"},
+        {"mutedText", "base"}, {"hint", "window"},    {"accent", "window"}, {"accent", "base"},
+        {"info", "window"},    {"warning", "window"}, {"warning", "base"},  {"error", "window"},
+        {"error", "base"},     {"success", "window"}, {"success", "base"},  {"highlightedText", "highlight"},
     };
     for (const auto &[text, background] : pairs) {
         const QColor fg = style.colour(QString::fromLatin1(text));

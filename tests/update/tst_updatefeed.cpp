@@ -22,15 +22,17 @@ void TestUpdateFeed::parse_data()
     const QString unreadable = QStringLiteral("The update information is not readable.");
     const QString noVersion = QStringLiteral("The update information names no valid version.");
     const QString noPage = QStringLiteral("The update information has no valid download page.");
-    QTest::newRow("complete") << QByteArray(R"({"version":" 1.2.0 ","notes":"Faster.","download":"https://t.example/d"})")
-                              << "1.2.0" << QString();
-    QTest::newRow("no notes") << QByteArray(R"({"version":"2","download":"http://t.example/"})") << "2" << QString();
+    QTest::newRow("complete")
+        << QByteArray(R"({"version":" 1.2.0 ","notes":"Faster.","download":"https://t.example/d"})")
+        << "1.2.0" << QString();
+    QTest::newRow("no notes") << QByteArray(R"({"version":"2","download":"http://t.example/"})") << "2"
+                              << QString();
     QTest::newRow("empty") << QByteArray() << QString() << unreadable;
     QTest::newRow("html page") << QByteArray("<html>captive portal</html>") << QString() << unreadable;
     QTest::newRow("array") << QByteArray("[1,2]") << QString() << unreadable;
     QTest::newRow("truncated") << QByteArray(R"({"version":"1.2.0","downl)") << QString() << unreadable;
-    QTest::newRow("version a number") << QByteArray(R"({"version":1.2,"download":"https://t.example/"})")
-                                      << QString() << noVersion;
+    QTest::newRow("version a number")
+        << QByteArray(R"({"version":1.2,"download":"https://t.example/"})") << QString() << noVersion;
     QTest::newRow("version words") << QByteArray(R"({"version":"1.2-beta","download":"https://t.example/"})")
                                    << QString() << noVersion;
     QTest::newRow("five parts") << QByteArray(R"({"version":"1.2.3.4.5","download":"https://t.example/"})")
@@ -60,12 +62,18 @@ void TestUpdateFeed::versionOrder_data()
     QTest::addColumn<QString>("a");
     QTest::addColumn<QString>("b");
     QTest::addColumn<int>("order");
-    QTest::newRow("equal") << "1.0.0" << "1.0.0" << 0;
-    QTest::newRow("missing part is 0") << "1.2" << "1.2.0" << 0;
-    QTest::newRow("numeric, not text") << "1.10" << "1.9" << 1;
-    QTest::newRow("patch") << "1.0.0" << "1.0.1" << -1;
-    QTest::newRow("major wins") << "2" << "1.99.99" << 1;
-    QTest::newRow("not a version is 0") << "beta" << "0.0.1" << -1;
+    QTest::newRow("equal") << "1.0.0"
+                           << "1.0.0" << 0;
+    QTest::newRow("missing part is 0") << "1.2"
+                                       << "1.2.0" << 0;
+    QTest::newRow("numeric, not text") << "1.10"
+                                       << "1.9" << 1;
+    QTest::newRow("patch") << "1.0.0"
+                           << "1.0.1" << -1;
+    QTest::newRow("major wins") << "2"
+                                << "1.99.99" << 1;
+    QTest::newRow("not a version is 0") << "beta"
+                                        << "0.0.1" << -1;
 }
 
 void TestUpdateFeed::versionOrder()

@@ -95,8 +95,10 @@ void FilterBar::showState()
     const QColor base = m_style.colour(QStringLiteral("base"));
     const QColor blended((tint.red() + 3 * base.red()) / 4, (tint.green() + 3 * base.green()) / 4,
                          (tint.blue() + 3 * base.blue()) / 4);
-    m_field->setStyleSheet(QStringLiteral("QComboBox { background: %1; color: %2; }")
-                               .arg(blended.name(), MoxStyle::readableOn(blended, m_style.colour(QStringLiteral("text"))).name()));
+    m_field->setStyleSheet(
+        QStringLiteral("QComboBox { background: %1; color: %2; }")
+            .arg(blended.name(),
+                 MoxStyle::readableOn(blended, m_style.colour(QStringLiteral("text"))).name()));
 }
 
 void FilterBar::apply()
@@ -122,9 +124,11 @@ void FilterBar::apply()
 
 void FilterBar::retranslateUi()
 {
-    m_field->lineEdit()->setPlaceholderText(tr("Display filter, e.g. artnet.opcode == artdmx && ip.src == 10.0.0.1"));
-    m_field->setToolTip(tr("Type a display filter and press Enter. Green: the filter is valid; red: it is not, "
-                           "and the message below says why."));
+    m_field->lineEdit()->setPlaceholderText(
+        tr("Display filter, e.g. artnet.opcode == artdmx && ip.src == 10.0.0.1"));
+    m_field->setToolTip(
+        tr("Type a display filter and press Enter. Green: the filter is valid; red: it is not, "
+           "and the message below says why."));
     m_field->setAccessibleName(tr("Display filter"));
     m_apply->setText(tr("Apply"));
     if (!m_valid)

@@ -27,17 +27,28 @@ QVariant PacketListModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     switch (section) {
-    case NumberColumn: return tr("No.");
-    case TimeColumn: return tr("Time");
-    case DirectionColumn: return tr("Dir");
-    case SourceColumn: return tr("Source");
-    case DestinationColumn: return tr("Destination");
-    case LengthColumn: return tr("Length");
-    case OpCodeColumn: return tr("OpCode");
-    case UniverseColumn: return tr("Universe");
-    case SequenceColumn: return tr("Seq");
-    case OutcomeColumn: return tr("Outcome");
-    case InfoColumn: return tr("Info");
+    case NumberColumn:
+        return tr("No.");
+    case TimeColumn:
+        return tr("Time");
+    case DirectionColumn:
+        return tr("Dir");
+    case SourceColumn:
+        return tr("Source");
+    case DestinationColumn:
+        return tr("Destination");
+    case LengthColumn:
+        return tr("Length");
+    case OpCodeColumn:
+        return tr("OpCode");
+    case UniverseColumn:
+        return tr("Universe");
+    case SequenceColumn:
+        return tr("Seq");
+    case OutcomeColumn:
+        return tr("Outcome");
+    case InfoColumn:
+        return tr("Info");
     }
     return {};
 }
@@ -57,25 +68,35 @@ QVariant PacketListModel::data(const QModelIndex &index, int role) const
             return QBrush(m_unknownColour);
         return {};
     }
-    if (role == Qt::TextAlignmentRole && (index.column() == NumberColumn || index.column() == LengthColumn
-                                          || index.column() == SequenceColumn))
+    if (role == Qt::TextAlignmentRole && (index.column() == NumberColumn || index.column() == LengthColumn ||
+                                          index.column() == SequenceColumn))
         return int(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
     const bool out = r.direction == PacketLog::Direction::Out;
     switch (index.column()) {
-    case NumberColumn: return at + 1;
-    case TimeColumn: return PacketLog::formatRecordTime(r.timeNs);
-    case DirectionColumn: return out ? tr("out") : tr("in");
-    case SourceColumn: return QStringLiteral("%1:%2").arg(PacketLog::ipv4Text(r.srcIp)).arg(r.srcPort);
-    case DestinationColumn: return QStringLiteral("%1:%2").arg(PacketLog::ipv4Text(r.dstIp)).arg(r.dstPort);
-    case LengthColumn: return r.length;
-    case OpCodeColumn: return r.isArtNet() ? PacketLog::opcodeName(r.opcode) : QString();
+    case NumberColumn:
+        return at + 1;
+    case TimeColumn:
+        return PacketLog::formatRecordTime(r.timeNs);
+    case DirectionColumn:
+        return out ? tr("out") : tr("in");
+    case SourceColumn:
+        return QStringLiteral("%1:%2").arg(PacketLog::ipv4Text(r.srcIp)).arg(r.srcPort);
+    case DestinationColumn:
+        return QStringLiteral("%1:%2").arg(PacketLog::ipv4Text(r.dstIp)).arg(r.dstPort);
+    case LengthColumn:
+        return r.length;
+    case OpCodeColumn:
+        return r.isArtNet() ? PacketLog::opcodeName(r.opcode) : QString();
     case UniverseColumn:
         return r.isDmx() ? QStringLiteral("0x%1").arg(r.portAddress, 4, 16, QLatin1Char('0')) : QString();
-    case SequenceColumn: return r.isDmx() ? QString::number(r.sequence) : QString();
-    case OutcomeColumn: return PacketLog::outcomeLabel(r.outcome);
-    case InfoColumn: return r.info();
+    case SequenceColumn:
+        return r.isDmx() ? QString::number(r.sequence) : QString();
+    case OutcomeColumn:
+        return PacketLog::outcomeLabel(r.outcome);
+    case InfoColumn:
+        return r.info();
     }
     return {};
 }
@@ -148,7 +169,8 @@ std::vector<PacketRecord> PacketListModel::shownRecords() const
     return shown;
 }
 
-void PacketListModel::setMarkColours(const QColor &failed, const QColor &sequenceError, const QColor &unknownOpCode)
+void PacketListModel::setMarkColours(const QColor &failed, const QColor &sequenceError,
+                                     const QColor &unknownOpCode)
 {
     m_failedColour = failed;
     m_sequenceColour = sequenceError;

@@ -22,9 +22,27 @@ class PacketListModel : public QAbstractTableModel
 {
     Q_OBJECT
 public:
-    enum Column { NumberColumn, TimeColumn, DirectionColumn, SourceColumn, DestinationColumn, LengthColumn,
-                  OpCodeColumn, UniverseColumn, SequenceColumn, OutcomeColumn, InfoColumn, ColumnCount };
-    enum Mark : quint8 { NoMark = 0, SequenceError = 1, UnknownOpCode = 2 };
+    enum Column
+    {
+        NumberColumn,
+        TimeColumn,
+        DirectionColumn,
+        SourceColumn,
+        DestinationColumn,
+        LengthColumn,
+        OpCodeColumn,
+        UniverseColumn,
+        SequenceColumn,
+        OutcomeColumn,
+        InfoColumn,
+        ColumnCount
+    };
+    enum Mark : quint8
+    {
+        NoMark = 0,
+        SequenceError = 1,
+        UnknownOpCode = 2
+    };
 
     explicit PacketListModel(QObject *parent = nullptr);
     ~PacketListModel() override;

@@ -55,7 +55,8 @@ int hexPosition(int offset)
 
 } // namespace
 
-PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidget(parent, Qt::Window), m_style(style)
+PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_style(style)
 {
     setObjectName(QStringLiteral("PacketLogWindow"));
     resize(1100, 700);
@@ -92,7 +93,8 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidg
         {PacketListModel::OutcomeColumn, "not sent  "},
     };
     for (const auto &[column, sample] : samples)
-        m_view->horizontalHeader()->resizeSection(column, metrics.horizontalAdvance(QLatin1String(sample)) + 12);
+        m_view->horizontalHeader()->resizeSection(column,
+                                                  metrics.horizontalAdvance(QLatin1String(sample)) + 12);
     m_fields = new QTreeWidget(this);
     m_fields->setObjectName(QStringLiteral("packetFields"));
     m_fields->setColumnCount(2);
@@ -138,7 +140,8 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent) : QWidg
         m_hex->clear();
         updateStatus();
     });
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &PacketLogWindow::showSelected);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &PacketLogWindow::showSelected);
     connect(m_fields, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
         // Mark the selected field's bytes in the dump.
         QList<QTextEdit::ExtraSelection> marks;
@@ -255,13 +258,14 @@ void PacketLogWindow::updateStatus()
 
 void PacketLogWindow::applyTheme()
 {
-    m_model->setMarkColours(m_style.roleColour(MoxStyle::ErrorRole), m_style.roleColour(MoxStyle::WarningRole),
-                            m_style.roleColour(MoxStyle::Accent));
+    m_model->setMarkColours(m_style.roleColour(MoxStyle::ErrorRole),
+                            m_style.roleColour(MoxStyle::WarningRole), m_style.roleColour(MoxStyle::Accent));
 }
 
 void PacketLogWindow::retranslateUi()
 {
-    setWindowTitle(m_fileName.isEmpty() ? tr("Network Log") : tr("Network Log - %1 (read-only)").arg(m_fileName));
+    setWindowTitle(m_fileName.isEmpty() ? tr("Network Log")
+                                        : tr("Network Log - %1 (read-only)").arg(m_fileName));
     m_pauseButton->setText(m_pauseButton->isChecked() ? tr("Resume") : tr("Pause"));
     m_pauseButton->setToolTip(tr("Stop adding new packets to the list; the node goes on receiving."));
     m_pauseButton->setEnabled(m_journal != nullptr);

@@ -41,7 +41,8 @@ public:
     // Follows a journal (not owned; null detaches). Only records appended from now on are shown.
     void setJournal(PacketLog::PacketJournal *journal);
     // Shows the records of a file, read-only; warnings are shown on the status line.
-    void showFile(const QString &path, std::vector<PacketLog::PacketRecord> records, const QStringList &warnings);
+    void showFile(const QString &path, std::vector<PacketLog::PacketRecord> records,
+                  const QStringList &warnings);
     bool isReadOnly() const { return m_journal == nullptr && !m_fileName.isEmpty(); }
     QString fileName() const { return m_fileName; }
 
