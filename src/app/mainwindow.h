@@ -208,6 +208,8 @@ private:
     // The log window a save applies to: the active one, else the live one (null when none is open).
     PacketLogWindow *logWindowToSave() const;
     bool saveLog(PacketLogWindow *window, const QString &path, const QString &format);
+    // Shared recent filters, the save shortcuts and "the window saves apply to".
+    void adoptLogWindow(PacketLogWindow *window);
 
     // Live (mainwindowlive.cpp)
     // The live pipeline, made on first use (listening or the network log).
@@ -256,7 +258,8 @@ private:
     QList<QAction *> m_broadcastActions; // enabled in Live broadcast
     QPointer<QDialog> m_shortcutsDialog;
     Translator *m_translator = nullptr;
-    QPointer<PacketLogWindow> m_logWindow; // the live log window
+    QPointer<PacketLogWindow> m_logWindow;     // the live log window
+    QPointer<PacketLogWindow> m_lastLogWindow; // the log window last active
     QString m_networkLogPath;              // where "Save Network Log" writes
     UpdateController *m_updates = nullptr;
 

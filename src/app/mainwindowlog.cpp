@@ -41,9 +41,7 @@ void MainWindow::showNetworkLog()
     if (!m_logWindow) {
         auto *window = new PacketLogWindow(*m_style, this);
         window->setJournal(&ensureLive().journal());
-        window->filterBar()->setRecentFilters(openSettings()->value(kRecentFiltersKey).toStringList());
-        connect(window->filterBar(), &FilterBar::recentFiltersChanged, this,
-                [](const QStringList &filters) { openSettings()->setValue(kRecentFiltersKey, filters); });
+        adoptLogWindow(window);
         m_logWindow = window;
     }
     m_logWindow->show();
@@ -77,9 +75,7 @@ void MainWindow::openNetworkLogFile(const QString &path)
         warnings << w.text();
     auto *window = new PacketLogWindow(*m_style, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->filterBar()->setRecentFilters(openSettings()->value(kRecentFiltersKey).toStringList());
-    connect(window->filterBar(), &FilterBar::recentFiltersChanged, this,
-            [](const QStringList &filters) { openSettings()->setValue(kRecentFiltersKey, filters); });
+    adoptLogWindow(window);
     const qint64 count = qint64(result.records.size());
     window->showFile(path, std::move(result.records), warnings);
     window->show();
@@ -91,12 +87,30 @@ PacketLogWindow *MainWindow::logWindowToSave() const
 {
     if (auto *active = qobject_cast<PacketLogWindow *>(QApplication::activeWindow()))
         return active;
-    return m_logWindow;
+    // Chosen from the main window's menu: the log window the user was in last.
+    return m_lastLogWindow ? m_lastLogWindow.data() : m_logWindow.data();
+}
+
+void MainWindow::adoptLogWindow(PacketLogWindow *window)
+{
+    window->filterBar()->setRecentFilters(openSettings()->value(kRecentFiltersKey).toStringList());
+    connect(window->filterBar(), &FilterBar::recentFiltersChanged, this, [this](const QStringList &filters) {
+        openSettings()->setValue(kRecentFiltersKey, filters);
+        // Every open log window offers the same recent filters.
+        for (PacketLogWindow *other : findChildren<PacketLogWindow *>())
+            other->filterBar()->setRecentFilters(filters);
+    });
+    connect(window, &PacketLogWindow::activated, this, [this, window] { m_lastLogWindow = window; });
+    // Ctrl+S and Ctrl+Shift+S work in the log window too, and save that window.
+    window->addAction(menuAction("Save Network Log"));
+    window->addAction(menuAction("Save Network Log As..."));
+    m_lastLogWindow = window;
 }
 
 void MainWindow::saveNetworkLog()
 {
-    if (m_networkLogPath.isEmpty() || !m_logWindow) {
+    // The live log goes on to the file it was saved to; anything else asks where.
+    if (m_networkLogPath.isEmpty() || !m_logWindow || logWindowToSave() != m_logWindow) {
         saveNetworkLogAs();
         return;
     }
@@ -123,10 +137,15 @@ void MainWindow::saveNetworkLogAs()
                                                 filters.join(QStringLiteral(";;")), &chosenFilter);
     if (path.isEmpty())
         return;
-    const SaveType &type = kSaveTypes[std::max<qsizetype>(0, filters.indexOf(chosenFilter))];
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QLatin1Char('.') + QLatin1String(type.suffix);
-    if (saveLog(window, path, QString::fromLatin1(type.format)) && type.format == QLatin1String("tlog") &&
+    const SaveType *type = &kSaveTypes[std::max<qsizetype>(0, filters.indexOf(chosenFilter))];
+    // A name typed with a known suffix says the format, whatever the list shows.
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    for (const SaveType &known : kSaveTypes)
+        if (suffix == QLatin1String(known.suffix))
+            type = &known;
+    if (suffix.isEmpty())
+        path += QLatin1Char('.') + QLatin1String(type->suffix);
+    if (saveLog(window, path, QString::fromLatin1(type->format)) && type->format == QLatin1String("tlog") &&
         window == m_logWindow)
         m_networkLogPath = path;
 }

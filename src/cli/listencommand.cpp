@@ -104,6 +104,10 @@ QJsonObject reportJson(const ArtNetNode &node, double seconds, const RecordingWr
         report.insert(QStringLiteral("logCollapsed"), double(log->collapsed));
         report.insert(QStringLiteral("logDropped"), double(log->spoolDropped));
         report.insert(QStringLiteral("logPath"), logPath);
+        report.insert(QStringLiteral("logError"), log->spoolFailed
+                                                      ? QJsonValue(QStringLiteral("A write to the packet log failed; "
+                                                                                  "logging stopped there."))
+                                                      : QJsonValue());
     }
     return report;
 }
@@ -135,8 +139,9 @@ int runListenCommand(const QStringList &arguments)
         "With --log, every datagram the node sends and receives goes to FILE, a .tlog packet log (created or\n"
         "truncated; an unchanged ArtDmx repeated within 250 ms is left out, as in the window's Network Log). The\n"
         "JSON then adds logRecords (written), logCollapsed (repeats left out), logDropped (records the disk could\n"
-        "not take in time) and logPath.\n"
-        "Exit codes: 0 ran and stopped, 1 the socket could not be bound or the patch was refused, 2 usage error."));
+        "not take in time), logPath and logError (why logging stopped, or null).\n"
+        "Exit codes: 0 ran and stopped, 1 the socket could not be bound, the patch was refused or the recording\n"
+        "or packet log could not be opened, 2 usage error."));
     const QCommandLineOption address(QStringLiteral("address"),
                                      QStringLiteral("Local IPv4 address to listen on (default: any)."),
                                      QStringLiteral("address"));
@@ -234,8 +239,7 @@ int runListenCommand(const QStringList &arguments)
     if (parser.isSet(log)) {
         PacketLog::LogMessage error;
         if (!journal.startSpool(parser.value(log), &error)) {
-            printErr(QStringLiteral("talu-cli listen: cannot write the packet log %1: %2")
-                         .arg(parser.value(log), error.untranslatedText()));
+            printErr(QStringLiteral("talu-cli listen: ") + error.untranslatedText());
             return ExitRefused;
         }
     }

@@ -48,6 +48,10 @@ void PacketRecord::setDatagram(QByteArrayView bytes)
     } else if (bytes.size() >= 10 && ArtNet::hasIdAt(bytes, 0)) {
         flags |= kFlagArtNet;
         opcode = le16(head + 8);
+    } else if (bytes.size() >= ArtNet::kKelHeaderSize && ArtNet::hasIdAt(bytes, ArtNet::kKelPrefixSize)
+               && le16(head + ArtNet::kKelPrefixSize + 8) == kOpKel) {
+        flags |= kFlagArtNet; // KEL framing without data bytes: Art-Net, not DMX
+        opcode = kOpKel;
     }
 }
 

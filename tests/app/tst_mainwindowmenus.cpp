@@ -499,6 +499,9 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
     QCOMPARE(log->windowTitle(), QStringLiteral("Network Log - show.tlog (read-only)"));
     QCOMPARE(log->model()->rowCount(), 3);
     QCOMPARE(status(w), QStringLiteral("Opened show.tlog: 3 records."));
+    for (QPushButton *b : log->findChildren<QPushButton *>())
+        if (b->text() == QLatin1String("Pause") || b->text() == QLatin1String("Clear"))
+            QVERIFY2(!b->isEnabled(), qPrintable(b->text())); // a file is not a stream
 
     // Not a log: refused in the reader's words, no window.
     const QString text = dir.filePath(QStringLiteral("notes.tlog"));

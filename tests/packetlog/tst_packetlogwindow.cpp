@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTextBlock>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -70,24 +71,25 @@ void TestPacketLogWindow::recordsArriveInBatchesAndDropsAreCounted()
 {
     MoxStyle style;
     PacketJournal journal(1024);
-    journal.append(packet(artDmx(1, 200))); // before the window looked: not shown
+    journal.append(packet(artDmx(1, 200))); // before the window looked: shown first
     PacketLogWindow window(style);
     window.setJournal(&journal);
     QSignalSpy inserted(window.model(), &QAbstractItemModel::rowsInserted);
     for (int i = 0; i < 600; ++i)
         journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i / 8))));
+    window.show(); // a hidden window takes nothing
     window.poll();
     QCOMPARE(inserted.count(), 1); // one insert for the batch
-    QCOMPARE(window.model()->rowCount(), 600);
+    QCOMPARE(window.model()->rowCount(), 601);
 
     // More than the ring holds between two looks: the overwritten ones are dropped.
     for (int i = 0; i < 1500; ++i)
         journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i % 200)), Direction::Out));
     window.poll();
-    QCOMPARE(window.model()->rowCount(), 600 + 1024);
+    QCOMPARE(window.model()->rowCount(), 601 + 1024);
     QCOMPARE(window.droppedCount(), 1500 - 1024);
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("packetLogStatus"))->text(),
-             QStringLiteral("1624 records · 1624 shown · 476 dropped"));
+             QStringLiteral("1625 records · 1625 shown · 476 dropped"));
 
     // Paused: nothing is taken; resumed: the list catches up.
     auto *pause = window.findChild<QPushButton *>();
@@ -95,10 +97,10 @@ void TestPacketLogWindow::recordsArriveInBatchesAndDropsAreCounted()
     pause->click();
     journal.append(packet(artDmx(1, 9)));
     window.poll();
-    QCOMPARE(window.model()->rowCount(), 1624);
+    QCOMPARE(window.model()->rowCount(), 1625);
     QCOMPARE(pause->text(), QStringLiteral("Resume"));
     pause->click();
-    QCOMPARE(window.model()->rowCount(), 1625);
+    QCOMPARE(window.model()->rowCount(), 1626);
 }
 
 void TestPacketLogWindow::filterBarStatesAndMessages()
@@ -107,6 +109,7 @@ void TestPacketLogWindow::filterBarStatesAndMessages()
     PacketJournal journal;
     PacketLogWindow window(style);
     window.setJournal(&journal);
+    window.show();
     for (quint16 universe = 0; universe < 4; ++universe)
         journal.append(packet(artDmx(universe, 1)));
     window.poll();
@@ -153,6 +156,7 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
     PacketJournal journal;
     PacketLogWindow window(style);
     window.setJournal(&journal);
+    window.show();
     journal.append(packet(artDmx(0x0123, 7)));
     window.poll();
     window.view()->setCurrentIndex(window.model()->index(0, 0));
@@ -171,6 +175,11 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
     QCOMPARE(marks.size(), 2);
     QCOMPARE(marks.at(0).cursor.selectedText(), QStringLiteral("23"));
     QCOMPARE(marks.at(1).cursor.selectedText(), QStringLiteral("01"));
+    fields->setCurrentItem(fields->topLevelItem(6)); // Length: bytes 16 and 17, on the second line
+    QCOMPARE(hex->extraSelections().size(), 2);
+    QCOMPARE(hex->extraSelections().at(0).cursor.selectedText(), QStringLiteral("00"));
+    QCOMPARE(hex->extraSelections().at(1).cursor.selectedText(), QStringLiteral("04"));
+    QCOMPARE(hex->extraSelections().at(1).cursor.block().text().left(4), QStringLiteral("0010"));
 }
 
 void TestPacketLogWindow::rowsThatMustStandOut()
@@ -179,6 +188,7 @@ void TestPacketLogWindow::rowsThatMustStandOut()
     PacketJournal journal;
     PacketLogWindow window(style);
     window.setJournal(&journal);
+    window.show();
     QByteArray unknown = artDmx(1, 1);
     unknown[9] = char(0x7f); // OpCode 0x7f00
     journal.append(packet(artDmx(1, 5)));

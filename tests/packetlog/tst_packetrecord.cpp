@@ -48,6 +48,7 @@ private slots:
                                               << "ArtDmx";
         QTest::newRow("KEL") << kel(0x0042, 3) << true << true << 0x5300 << 0x42
                              << "ArtDmx (KEL) 0x0042 seq 3, 4 channels from KELDEV";
+        QTest::newRow("KEL without data") << kel(0x0042, 3).left(30) << true << false << 0x5300 << 0 << "ArtDmx (KEL)";
         QTest::newRow("ArtPoll") << makeArtPoll() << true << false << 0x2000 << 0 << "ArtPoll";
         QTest::newRow("ArtPollReply") << makeArtPollReply("Node 1") << true << false << 0x2100 << 0
                                       << "ArtPollReply \"Node 1\"";

@@ -17,6 +17,8 @@ FilterBar::FilterBar(const MoxStyle &style, QWidget *parent) : QWidget(parent), 
     m_field->setObjectName(QStringLiteral("filterField"));
     m_field->setEditable(true);
     m_field->setInsertPolicy(QComboBox::NoInsert);
+    // No inline completion: Enter must apply what was typed, not a longer recent filter.
+    m_field->setCompleter(nullptr);
     m_field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_apply = new QPushButton(this);
     m_error = new QLabel(this);

@@ -1,10 +1,12 @@
 #include "packetlog/widgets/packetlistmodel.h"
 
-#include "artnet/artnetpacket.h"
+#include "artnet/artnetwire.h"
 #include "packetlog/packetvocabulary.h"
 #include "packetlog/textexport.h"
 
 #include <QBrush>
+
+#include <algorithm>
 
 using PacketLog::PacketRecord;
 
@@ -118,7 +120,6 @@ quint8 PacketListModel::markOf(const PacketRecord &r)
 void PacketListModel::appendRecords(const std::vector<PacketRecord> &records)
 {
     std::vector<qint64> added;
-    m_records.reserve(m_records.size() + records.size());
     for (const PacketRecord &r : records) {
         m_marks.push_back(markOf(r));
         m_records.push_back(r);
@@ -131,12 +132,34 @@ void PacketListModel::appendRecords(const std::vector<PacketRecord> &records)
     beginInsertRows(QModelIndex(), first, first + int(added.size()) - 1);
     m_shown.insert(m_shown.end(), added.begin(), added.end());
     endInsertRows();
+    if (qint64(m_records.size()) > kMaxRecords)
+        dropOldest(qint64(m_records.size()) - kMaxRecords * 3 / 4);
+}
+
+void PacketListModel::dropOldest(qint64 count)
+{
+    // The shown rows are in record order: those of the dropped records come first.
+    const auto kept = std::lower_bound(m_shown.begin(), m_shown.end(), count);
+    const int removedRows = int(kept - m_shown.begin());
+    if (removedRows > 0)
+        beginRemoveRows(QModelIndex(), 0, removedRows - 1);
+    m_shown.erase(m_shown.begin(), kept);
+    for (qint64 &i : m_shown)
+        i -= count;
+    m_records.erase(m_records.begin(), m_records.begin() + count);
+    m_marks.erase(m_marks.begin(), m_marks.begin() + count);
+    m_firstNumber += count;
+    m_trimmed += count;
+    if (removedRows > 0)
+        endRemoveRows();
 }
 
 void PacketListModel::setRecords(std::vector<PacketRecord> records)
 {
     beginResetModel();
     m_records = std::move(records);
+    m_firstNumber = 0;
+    m_trimmed = 0;
     m_lastSequence.clear();
     m_marks.clear();
     m_marks.reserve(m_records.size());

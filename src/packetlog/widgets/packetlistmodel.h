@@ -43,6 +43,9 @@ public:
         SequenceError = 1,
         UnknownOpCode = 2
     };
+    // The live list keeps at most this many records (about 300 MB); past it
+    // the oldest quarter goes (the session's .tlog file keeps everything).
+    static constexpr qint64 kMaxRecords = 1'000'000;
 
     explicit PacketListModel(QObject *parent = nullptr);
     ~PacketListModel() override;
@@ -60,6 +63,8 @@ public:
     void setFilter(std::shared_ptr<const PacketLog::FilterNode> filter);
 
     qint64 recordCount() const { return qint64(m_records.size()); }
+    // Records let go to stay within kMaxRecords.
+    qint64 trimmedCount() const { return m_trimmed; }
     const PacketLog::PacketRecord &recordAt(int row) const { return m_records[size_t(m_shown[size_t(row)])]; }
     quint8 markAt(int row) const { return m_marks[size_t(m_shown[size_t(row)])]; }
     // The records the rows show, in order (for saving what the filter shows).
@@ -71,11 +76,14 @@ public:
 
 private:
     quint8 markOf(const PacketLog::PacketRecord &record);
+    void dropOldest(qint64 count);
 
     std::vector<PacketLog::PacketRecord> m_records;
     std::vector<quint8> m_marks;
     std::vector<qint64> m_shown; // indices into m_records
     std::shared_ptr<const PacketLog::FilterNode> m_filter;
+    qint64 m_firstNumber = 0; // the No. column counts from the first record ever taken
+    qint64 m_trimmed = 0;
     // Last sequence per sender and Port-Address.
     std::unordered_map<quint64, quint8> m_lastSequence;
     QColor m_failedColour, m_sequenceColour, m_unknownColour;

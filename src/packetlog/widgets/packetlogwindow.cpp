@@ -178,6 +178,8 @@ void PacketLogWindow::setJournal(PacketLog::PacketJournal *journal)
     m_journal = journal;
     m_fileName.clear();
     m_seenAppended = journal ? journal->counters().appended : 0;
+    // What the journal holds already (the node may have run for a while) comes first.
+    m_model->setRecords(journal ? journal->records() : std::vector<PacketLog::PacketRecord>());
     if (journal)
         m_pollTimer.start();
     else
@@ -198,7 +200,9 @@ void PacketLogWindow::showFile(const QString &path, std::vector<PacketLog::Packe
 
 void PacketLogWindow::poll()
 {
-    if (!m_journal || m_pauseButton->isChecked())
+    // Hidden (closed) or paused: the journal keeps its ring; what it overwrites
+    // meanwhile is counted as dropped at the next look.
+    if (!m_journal || m_pauseButton->isChecked() || !isVisible())
         return;
     const qint64 appended = m_journal->counters().appended;
     const qint64 fresh = appended - m_seenAppended;
@@ -245,7 +249,7 @@ QString PacketLogWindow::statusText() const
     return tr("%1 records · %2 shown · %3 dropped")
         .arg(m_model->recordCount())
         .arg(m_model->rowCount())
-        .arg(m_dropped);
+        .arg(m_dropped + m_model->trimmedCount());
 }
 
 void PacketLogWindow::updateStatus()
@@ -282,5 +286,7 @@ void PacketLogWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslateUi();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        emit activated();
     QWidget::changeEvent(event);
 }

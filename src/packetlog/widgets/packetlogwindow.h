@@ -38,7 +38,7 @@ public:
     explicit PacketLogWindow(const MoxStyle &style, QWidget *parent = nullptr);
     ~PacketLogWindow() override;
 
-    // Follows a journal (not owned; null detaches). Only records appended from now on are shown.
+    // Follows a journal (not owned; null detaches), starting with the records it holds.
     void setJournal(PacketLog::PacketJournal *journal);
     // Shows the records of a file, read-only; warnings are shown on the status line.
     void showFile(const QString &path, std::vector<PacketLog::PacketRecord> records,
@@ -51,8 +51,12 @@ public:
     QTableView *view() const { return m_view; }
     qint64 droppedCount() const { return m_dropped; }
     QString statusText() const;
-    // Takes what the journal has now (the poll timer does this on its own).
+    // Takes what the journal has now (the poll timer does this on its own while shown).
     void poll();
+
+signals:
+    // The window became the active one (a save then means this window).
+    void activated();
 
 protected:
     void changeEvent(QEvent *event) override;
