@@ -2,6 +2,8 @@
 
 #include "packetlog/packetrecord.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace PacketLog {
@@ -23,14 +25,30 @@ public:
         if (has(offset, length))
             fields.push_back({QString::fromLatin1(name), value, offset, length});
     }
-    void addNumber(const char *name, int offset, int length, quint32 value)
+    enum class Order { Byte, Little, Big };
+    // The number in the field's bytes, when the bytes are there.
+    void addNumber(const char *name, int offset, Order order)
     {
-        add(name, offset, length, QString::number(value));
+        if (has(offset, order == Order::Byte ? 1 : 2))
+            add(name, offset, order == Order::Byte ? 1 : 2, QString::number(number(offset, order)));
     }
-    void addHex(const char *name, int offset, int length, quint32 value, int digits)
+    void addHex(const char *name, int offset, Order order)
     {
-        add(name, offset, length,
-            QStringLiteral("0x") + QStringLiteral("%1").arg(value, digits, 16, QLatin1Char('0')).toUpper());
+        const int length = order == Order::Byte ? 1 : 2;
+        if (has(offset, length))
+            add(name, offset, length,
+                QStringLiteral("0x")
+                    + QStringLiteral("%1").arg(number(offset, order), 2 * length, 16, QLatin1Char('0')).toUpper());
+    }
+    // Four bytes as "a.b.c.d" (addresses) or "a b c d" (port lists).
+    void addQuad(const char *name, int offset, QChar separator)
+    {
+        if (!has(offset, 4))
+            return;
+        QStringList parts;
+        for (int i = 0; i < 4; ++i)
+            parts << QString::number(u8(offset + i));
+        add(name, offset, 4, parts.join(separator));
     }
     // A NUL-terminated text field of fixed size.
     void addText(const char *name, int offset, int length)
@@ -53,6 +71,11 @@ public:
     std::vector<DecodedField> fields;
 
 private:
+    quint32 number(int offset, Order order) const
+    {
+        return order == Order::Byte ? u8(offset) : order == Order::Little ? le16(offset) : be16(offset);
+    }
+
     QByteArrayView m_bytes;
 };
 
@@ -65,49 +88,42 @@ QString portAddressText(quint16 portAddress)
         .arg(portAddress & 0x0F);
 }
 
+using Order = Decoder::Order;
+
 void decodeDmx(Decoder &d, int at)
 {
-    d.addNumber("Sequence", at + 12, 1, d.has(at + 12, 1) ? d.u8(at + 12) : 0);
-    d.addNumber("Physical", at + 13, 1, d.has(at + 13, 1) ? d.u8(at + 13) : 0);
+    d.addNumber("Sequence", at + 12, Order::Byte);
+    d.addNumber("Physical", at + 13, Order::Byte);
     if (d.has(at + 14, 2))
         d.add("Port-Address", at + 14, 2,
               portAddressText(quint16(d.u8(at + 14) | ((d.u8(at + 15) & 0x7F) << 8))));
-    if (d.has(at + 16, 2))
-        d.addNumber("Length", at + 16, 2, d.be16(at + 16));
+    d.addNumber("Length", at + 16, Order::Big);
 }
 
 void decodePoll(Decoder &d)
 {
     d.addFlags("Flags", 12);
-    d.addNumber("DiagPriority", 13, 1, d.has(13, 1) ? d.u8(13) : 0);
+    d.addNumber("DiagPriority", 13, Order::Byte);
 }
 
 void decodePollReply(Decoder &d)
 {
-    if (d.has(10, 4))
-        d.add("IP address", 10, 4,
-              QStringLiteral("%1.%2.%3.%4").arg(d.u8(10)).arg(d.u8(11)).arg(d.u8(12)).arg(d.u8(13)));
-    d.addNumber("Port", 14, 2, d.has(14, 2) ? d.le16(14) : 0);
-    d.addHex("VersInfo", 16, 2, d.has(16, 2) ? d.be16(16) : 0, 4);
-    d.addNumber("NetSwitch", 18, 1, d.has(18, 1) ? d.u8(18) : 0);
-    d.addNumber("SubSwitch", 19, 1, d.has(19, 1) ? d.u8(19) : 0);
-    d.addHex("Oem", 20, 2, d.has(20, 2) ? d.be16(20) : 0, 4);
+    d.addQuad("IP address", 10, QLatin1Char('.'));
+    d.addNumber("Port", 14, Order::Little);
+    d.addHex("VersInfo", 16, Order::Big);
+    d.addNumber("NetSwitch", 18, Order::Byte);
+    d.addNumber("SubSwitch", 19, Order::Byte);
+    d.addHex("Oem", 20, Order::Big);
     d.addFlags("Status1", 23);
-    d.addHex("EstaMan", 24, 2, d.has(24, 2) ? d.le16(24) : 0, 4);
+    d.addHex("EstaMan", 24, Order::Little);
     d.addText("ShortName", 26, 18);
     d.addText("LongName", 44, 64);
     d.addText("NodeReport", 108, 64);
-    d.addNumber("NumPorts", 172, 2, d.has(172, 2) ? d.be16(172) : 0);
-    if (d.has(186, 4))
-        d.add("SwIn", 186, 4,
-              QStringLiteral("%1 %2 %3 %4").arg(d.u8(186)).arg(d.u8(187)).arg(d.u8(188)).arg(d.u8(189)));
-    if (d.has(190, 4))
-        d.add("SwOut", 190, 4,
-              QStringLiteral("%1 %2 %3 %4").arg(d.u8(190)).arg(d.u8(191)).arg(d.u8(192)).arg(d.u8(193)));
-    if (d.has(207, 4))
-        d.add("BindIp", 207, 4,
-              QStringLiteral("%1.%2.%3.%4").arg(d.u8(207)).arg(d.u8(208)).arg(d.u8(209)).arg(d.u8(210)));
-    d.addNumber("BindIndex", 211, 1, d.has(211, 1) ? d.u8(211) : 0);
+    d.addNumber("NumPorts", 172, Order::Big);
+    d.addQuad("SwIn", 186, QLatin1Char(' '));
+    d.addQuad("SwOut", 190, QLatin1Char(' '));
+    d.addQuad("BindIp", 207, QLatin1Char('.'));
+    d.addNumber("BindIndex", 211, Order::Byte);
     d.addFlags("Status2", 212);
 }
 
@@ -137,8 +153,7 @@ std::vector<DecodedField> decodeArtNetFields(QByteArrayView bytes)
         decodePollReply(d);
         return std::move(d.fields);
     }
-    if (d.has(at + 10, 2))
-        d.addNumber("ProtVer", at + 10, 2, d.be16(at + 10));
+    d.addNumber("ProtVer", at + 10, Order::Big);
     if (opcode == kOpDmx || opcode == kOpKel)
         decodeDmx(d, at);
     else if (opcode == kOpPoll && at == 0)

@@ -56,6 +56,11 @@ void UpdateChecker::onFinished()
     m_reply = nullptr;
     reply->deleteLater();
 
+    // What readyRead left unread; past the limit it is refused like a reply cut short.
+    if (!m_tooLarge && reply->error() == QNetworkReply::NoError) {
+        m_received += reply->readAll();
+        m_tooLarge = m_received.size() > kMaxFeedBytes;
+    }
     UpdateCheckResult result;
     if (m_tooLarge) {
         result.error =
@@ -63,14 +68,7 @@ void UpdateChecker::onFinished()
     } else if (reply->error() != QNetworkReply::NoError) {
         result.error = reply->errorString();
     } else {
-        m_received += reply->readAll();
-        const UpdateFeedResult parsed =
-            m_received.size() > kMaxFeedBytes
-                ? UpdateFeedResult{false,
-                                   {},
-                                   QString::fromLatin1(QT_TRANSLATE_NOOP(
-                                       "UpdateFeed", "The update information is too large."))}
-                : parseUpdateFeed(m_received);
+        const UpdateFeedResult parsed = parseUpdateFeed(m_received);
         if (!parsed.ok) {
             result.error = parsed.error;
         } else {

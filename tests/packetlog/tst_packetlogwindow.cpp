@@ -2,6 +2,8 @@
 // batch per look, what the ring overwrote first is counted as dropped, pause
 // and resume, the filter bar's states and messages, the detail pane's
 // decoded fields over the marked hex dump, and the rows that must stand out.
+#include "artnet/artnetpacket.h"
+#include "packetlog/artnetfields.h"
 #include "packetlog/displayfilter.h"
 #include "packetlog/packetjournal.h"
 #include "packetlog/widgets/filterbar.h"
@@ -175,6 +177,18 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
     QCOMPARE(marks.size(), 2);
     QCOMPARE(marks.at(0).cursor.selectedText(), QStringLiteral("23"));
     QCOMPARE(marks.at(1).cursor.selectedText(), QStringLiteral("01"));
+    // An ArtPollReply as the node builds it: its address, names and ports.
+    ArtNet::PollReplyInput reply;
+    reply.bindIPv4 = 0xC0000201;
+    reply.universes = {0x0123};
+    QStringList replyFields;
+    for (const DecodedField &f : decodeArtNetFields(ArtNet::buildPollReply(reply, 0)))
+        replyFields << f.name + " = " + f.value;
+    for (const char *expected : {"OpCode = 0x2100 (ArtPollReply)", "IP address = 192.0.2.1", "Port = 6454",
+                                 "NetSwitch = 1", "SubSwitch = 2", "ShortName = TorvaneTester",
+                                 "LongName = Torvane Art-Net Tester", "BindIp = 192.0.2.1", "BindIndex = 1"})
+        QVERIFY2(replyFields.contains(QString::fromLatin1(expected)), qPrintable(replyFields.join('\n')));
+
     fields->setCurrentItem(fields->topLevelItem(6)); // Length: bytes 16 and 17, on the second line
     QCOMPARE(hex->extraSelections().size(), 2);
     QCOMPARE(hex->extraSelections().at(0).cursor.selectedText(), QStringLiteral("00"));

@@ -55,11 +55,6 @@ void FilterBar::setText(const QString &text)
     m_field->setEditText(text);
 }
 
-QString FilterBar::errorText() const
-{
-    return m_error->isVisible() || !m_valid ? m_error->text() : QString();
-}
-
 QStringList FilterBar::recentFilters() const
 {
     QStringList recent;
@@ -79,7 +74,11 @@ void FilterBar::setRecentFilters(const QStringList &filters)
 
 void FilterBar::check()
 {
-    const PacketLog::FilterCompileResult result = PacketLog::compileFilter(text());
+    showCompiled(PacketLog::compileFilter(text()));
+}
+
+void FilterBar::showCompiled(const PacketLog::FilterCompileResult &result)
+{
     m_valid = result.ok();
     m_error->setText(m_valid ? QString() : result.error.text());
     m_error->setVisible(!m_valid);
@@ -108,7 +107,7 @@ void FilterBar::apply()
     const QString filterText = text().trimmed();
     PacketLog::FilterCompileResult result = PacketLog::compileFilter(filterText);
     if (!result.ok()) {
-        check(); // the message stays; the list keeps what it shows
+        showCompiled(result); // the message stays; the list keeps what it shows
         return;
     }
     if (!filterText.isEmpty()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "packetlog/filternode.h"
+#include "packetlog/displayfilter.h"
 
 #include <QWidget>
 
@@ -26,8 +26,6 @@ public:
 
     QString text() const;
     void setText(const QString &text);
-    // The message under the field: empty while the text compiles.
-    QString errorText() const;
     bool isValid() const { return m_valid; }
     QStringList recentFilters() const;
     void setRecentFilters(const QStringList &filters);
@@ -44,6 +42,7 @@ protected:
 private:
     void retranslateUi();
     void check();
+    void showCompiled(const PacketLog::FilterCompileResult &result);
     void apply();
     void showState();
 

@@ -165,10 +165,7 @@ void PacketListModel::setRecords(std::vector<PacketRecord> records)
     m_marks.reserve(m_records.size());
     for (const PacketRecord &r : m_records)
         m_marks.push_back(markOf(r));
-    m_shown.clear();
-    for (size_t i = 0; i < m_records.size(); ++i)
-        if (!m_filter || m_filter->match(m_records[i]))
-            m_shown.push_back(qint64(i));
+    rebuildShown();
     endResetModel();
 }
 
@@ -176,11 +173,16 @@ void PacketListModel::setFilter(std::shared_ptr<const PacketLog::FilterNode> fil
 {
     beginResetModel();
     m_filter = std::move(filter);
+    rebuildShown();
+    endResetModel();
+}
+
+void PacketListModel::rebuildShown()
+{
     m_shown.clear();
     for (size_t i = 0; i < m_records.size(); ++i)
         if (!m_filter || m_filter->match(m_records[i]))
             m_shown.push_back(qint64(i));
-    endResetModel();
 }
 
 std::vector<PacketRecord> PacketListModel::shownRecords() const

@@ -77,6 +77,8 @@ public:
 private:
     quint8 markOf(const PacketLog::PacketRecord &record);
     void dropOldest(qint64 count);
+    // The rows again from every record (inside a model reset).
+    void rebuildShown();
 
     std::vector<PacketLog::PacketRecord> m_records;
     std::vector<quint8> m_marks;

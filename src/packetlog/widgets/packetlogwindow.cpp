@@ -190,7 +190,8 @@ void PacketLogWindow::setJournal(PacketLog::PacketJournal *journal)
 void PacketLogWindow::showFile(const QString &path, std::vector<PacketLog::PacketRecord> records,
                                const QStringList &warnings)
 {
-    setJournal(nullptr);
+    m_journal = nullptr;
+    m_pollTimer.stop();
     m_fileName = QFileInfo(path).fileName();
     m_warnings = warnings;
     m_dropped = 0;
