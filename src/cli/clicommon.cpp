@@ -2,8 +2,24 @@
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QTimer>
 
+#include <atomic>
+#include <csignal>
 #include <cstdio>
+
+namespace {
+
+// Set from the signal handler; polled by a timer so that the command stops
+// cleanly on the event loop's thread.
+std::atomic<bool> g_stopRequested{false};
+
+extern "C" void requestStop(int)
+{
+    g_stopRequested.store(true);
+}
+
+} // namespace
 
 void printOut(const QString &text)
 {
@@ -47,4 +63,34 @@ std::optional<CliExit> parseCommandLine(QCommandLineParser &parser, const QStrin
         return ExitOk;
     }
     return std::nullopt;
+}
+
+void execUntilInterrupted(double seconds, const std::function<void()> &stop)
+{
+    const std::function<void()> stopNow = stop ? stop : [] { QCoreApplication::quit(); };
+    g_stopRequested.store(false);
+    std::signal(SIGINT, requestStop);
+    std::signal(SIGTERM, requestStop);
+    bool stopping = false;
+    const auto stopOnce = [&] {
+        if (!stopping) {
+            stopping = true;
+            stopNow();
+        }
+    };
+    QTimer stopPoll;
+    QObject::connect(&stopPoll, &QTimer::timeout, [&] {
+        if (g_stopRequested.load())
+            stopOnce();
+    });
+    stopPoll.start(100);
+    QTimer runTimer;
+    runTimer.setSingleShot(true);
+    runTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&runTimer, &QTimer::timeout, stopOnce);
+    if (seconds >= 0)
+        runTimer.start(int(seconds * 1000));
+    QCoreApplication::exec();
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
 }

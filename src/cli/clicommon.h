@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 // Exit codes every talu-cli command keeps: scripts on show machines rely on them.
@@ -22,3 +23,9 @@ void printJson(const QJsonObject &object);
 // when the command should go on.
 std::optional<CliExit> parseCommandLine(QCommandLineParser &parser, const QString &command,
                                         const QStringList &arguments);
+
+// Runs the event loop until Ctrl-C / SIGTERM or until `seconds` have passed
+// (negative: no limit), then calls stop once, which must make the loop quit
+// at once or later (by default it quits at once). Anything else may quit the
+// loop earlier.
+void execUntilInterrupted(double seconds, const std::function<void()> &stop = {});

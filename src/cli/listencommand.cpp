@@ -13,9 +13,7 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
-#include <csignal>
 #include <cstdio>
 
 #ifdef Q_OS_WIN
@@ -25,15 +23,6 @@
 #endif
 
 namespace {
-
-// Set from the signal handler; polled by a timer so the node stops cleanly
-// on the event loop's thread.
-std::atomic<bool> g_stopRequested{false};
-
-extern "C" void requestStop(int)
-{
-    g_stopRequested.store(true);
-}
 
 bool stdoutIsTerminal()
 {
@@ -275,22 +264,6 @@ int runListenCommand(const QStringList &arguments)
                      .arg(grantedKb)
                      .arg(ArtNetNode::kReceiveBufferBytes / 1024));
 
-    g_stopRequested.store(false);
-    std::signal(SIGINT, requestStop);
-    std::signal(SIGTERM, requestStop);
-    QTimer stopPoll;
-    QObject::connect(&stopPoll, &QTimer::timeout, [] {
-        if (g_stopRequested.load())
-            QCoreApplication::quit();
-    });
-    stopPoll.start(100);
-    QTimer runTimer;
-    runTimer.setSingleShot(true);
-    runTimer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&runTimer, &QTimer::timeout, [] { QCoreApplication::quit(); });
-    if (runSeconds >= 0)
-        runTimer.start(int(runSeconds * 1000));
-
     const bool live = !parser.isSet(json) && stdoutIsTerminal();
     QTimer statusTimer;
     QObject::connect(&statusTimer, &QTimer::timeout, [&node] {
@@ -302,15 +275,13 @@ int runListenCommand(const QStringList &arguments)
 
     QElapsedTimer ran;
     ran.start();
-    QCoreApplication::exec();
+    execUntilInterrupted(runSeconds);
     node.stop();
     pipeline.stopRecording();
     journal.stopSpool();
     const PacketLog::JournalCounters logged = journal.counters();
     const PacketLog::JournalCounters *logReport = parser.isSet(log) ? &logged : nullptr;
     const RecordingWriter *writer = pipeline.writer();
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
 
     if (parser.isSet(json)) {
         printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer, logReport, parser.value(log)));

@@ -1,5 +1,6 @@
 #include "cli/clicommon.h"
 #include "talu_version.h"
+#include "cli/capturecommand.h"
 #include "cli/colourcommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
@@ -30,6 +31,7 @@ const Command kCommands[] = {
     {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
+    {"capture", "capture Art-Net from a network adapter into a packet log or pcapng file", runCaptureCommand},
     {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
     {"gps-verify", "verify a GPS-Sync set (one .tpx per group) against a patch, check by check",
      runGpsVerifyCommand},

@@ -161,52 +161,105 @@ bool isPcapng(QByteArrayView bytes)
     return bytes.size() >= 4 && le32(reinterpret_cast<const unsigned char *>(bytes.data())) == 0x0A0D0D0A;
 }
 
-LogLoadResult readPcap(QByteArrayView bytes)
+PcapStreamReader::PcapStreamReader() = default;
+
+bool PcapStreamReader::feed(QByteArrayView bytes, std::vector<PacketRecord> *out)
+{
+    if (m_failed)
+        return false;
+    if (m_pending.isEmpty()) {
+        // Most of a whole file is read straight from the caller's bytes; only
+        // a packet cut by the end of this piece waits for the next one.
+        const qint64 used = consume(bytes, out);
+        if (!m_failed)
+            m_pending = bytes.sliced(used).toByteArray();
+    } else {
+        m_pending.append(bytes.data(), bytes.size());
+        const qint64 used = consume(m_pending, out);
+        if (!m_failed)
+            m_pending.remove(0, used);
+    }
+    return !m_failed;
+}
+
+qint64 PcapStreamReader::consume(QByteArrayView bytes, std::vector<PacketRecord> *out)
+{
+    const auto *p = reinterpret_cast<const unsigned char *>(bytes.data());
+    qint64 offset = 0;
+    if (!m_started) {
+        if (bytes.size() < 4)
+            return 0;
+        if (!isPcap(bytes)) {
+            m_failed = true;
+            m_error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "This is not a pcap capture file."));
+            return 0;
+        }
+        if (bytes.size() < 24)
+            return 0;
+        const quint32 magic = le32(p);
+        m_reader.bigEndian = magic == 0xD4C3B2A1 || magic == 0x4D3CB2A1;
+        m_nanoseconds = magic == 0xA1B23C4D || magic == 0x4D3CB2A1;
+        // The low 28 bits are the link type; the upper bits carry FCS information.
+        m_linkType = m_reader.u32(p + 20) & 0x0FFFFFFF;
+        m_started = true;
+        m_position = 24;
+        offset = 24;
+    }
+    while (bytes.size() - offset >= 16) {
+        const unsigned char *h = p + offset;
+        const quint32 seconds = m_reader.u32(h);
+        const quint32 fraction = m_reader.u32(h + 4);
+        const quint32 captured = m_reader.u32(h + 8);
+        const quint32 original = m_reader.u32(h + 12);
+        if (captured > kMaxPacketBytes || (!m_nanoseconds && fraction >= 1000000) || fraction >= 1000000000) {
+            m_warnings.append(damaged(m_packets + 1, m_position, m_packets));
+            m_failed = true;
+            return offset;
+        }
+        if (bytes.size() - offset - 16 < qint64(captured))
+            break;
+        ++m_packets;
+        PacketRecord record;
+        if (decodeFrame(m_linkType, Frame{h + 16, captured, original}, &record)) {
+            record.timeNs = qint64(seconds) * 1000000000LL + qint64(fraction) * (m_nanoseconds ? 1 : 1000);
+            out->push_back(record);
+        } else {
+            ++m_skipped;
+        }
+        offset += 16 + captured;
+        m_position += 16 + captured;
+    }
+    return offset;
+}
+
+void PcapStreamReader::finish()
+{
+    if (!m_failed && !m_pending.isEmpty() && m_started)
+        m_warnings.append(cutShort(m_packets + 1, m_position, m_packets));
+    m_pending.clear();
+}
+
+LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress)
 {
     LogLoadResult result;
     result.format = QStringLiteral("pcap");
-    const auto *p = reinterpret_cast<const unsigned char *>(bytes.data());
     if (bytes.size() < 24 || !isPcap(bytes)) {
         result.error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "This is not a pcap capture file."));
         return result;
     }
-    const quint32 magic = le32(p);
-    const Reader rd{magic == 0xD4C3B2A1 || magic == 0x4D3CB2A1};
-    const bool nanoseconds = magic == 0xA1B23C4D || magic == 0x4D3CB2A1;
-    // The low 28 bits are the link type; the upper bits carry FCS information.
-    const quint32 linkType = rd.u32(p + 20) & 0x0FFFFFFF;
     result.ok = true;
-
-    qint64 offset = 24;
-    qint64 packet = 0;
-    while (offset < bytes.size()) {
-        ++packet;
-        if (bytes.size() - offset < 16) {
-            result.warnings.append(cutShort(packet, offset, packet - 1));
-            break;
-        }
-        const unsigned char *h = p + offset;
-        const quint32 seconds = rd.u32(h);
-        const quint32 fraction = rd.u32(h + 4);
-        const quint32 captured = rd.u32(h + 8);
-        const quint32 original = rd.u32(h + 12);
-        if (captured > kMaxPacketBytes || (!nanoseconds && fraction >= 1000000) || fraction >= 1000000000) {
-            result.warnings.append(damaged(packet, offset, packet - 1));
-            break;
-        }
-        if (bytes.size() - offset - 16 < qint64(captured)) {
-            result.warnings.append(cutShort(packet, offset, packet - 1));
-            break;
-        }
-        PacketRecord record;
-        if (decodeFrame(linkType, Frame{h + 16, captured, original}, &record)) {
-            record.timeNs = qint64(seconds) * 1000000000LL + qint64(fraction) * (nanoseconds ? 1 : 1000);
-            result.records.push_back(record);
-        } else {
-            ++result.skipped;
-        }
-        offset += 16 + captured;
+    PcapStreamReader reader;
+    // In slices, so that a watcher sees the records come and can stop the read.
+    constexpr qsizetype kSlice = 4 * 1024 * 1024;
+    bool stopped = false;
+    for (qsizetype at = 0; at < bytes.size() && !stopped; at += kSlice) {
+        stopped = !reader.feed(bytes.sliced(at, std::min(kSlice, bytes.size() - at)), &result.records)
+            || (progress && !progress(result, std::min(at + kSlice, bytes.size())));
     }
+    if (!stopped)
+        reader.finish();
+    result.warnings = reader.warnings();
+    result.skipped = reader.skipped();
     noteSkipped(result);
     return result;
 }
@@ -281,7 +334,7 @@ void readPacketOptions(const Reader &rd, const unsigned char *opts, quint32 size
 
 } // namespace
 
-LogLoadResult readPcapng(QByteArrayView bytes)
+LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress)
 {
     LogLoadResult result;
     result.format = QStringLiteral("pcapng");
@@ -379,6 +432,8 @@ LogLoadResult readPcapng(QByteArrayView bytes)
             }
         }
         offset += total;
+        if (progress && result.records.size() >= kProgressRecords && !progress(result, offset))
+            break;
     }
     result.ok = sawSection;
     if (!sawSection)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "packetlog/byteio.h"
 #include "packetlog/logloadresult.h"
 
 #include <QByteArrayView>
@@ -13,10 +14,45 @@ namespace PacketLog {
 // Link types: Ethernet (with VLAN tags), raw IPv4, BSD loopback, Linux cooked
 // v1 and v2. Never throws; a damaged or cut file yields what was whole with a
 // warning naming the packet and byte where reading stopped. Any thread.
-LogLoadResult readPcap(QByteArrayView bytes);
-LogLoadResult readPcapng(QByteArrayView bytes);
+LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress = {});
+LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress = {});
 
 bool isPcap(QByteArrayView bytes);
 bool isPcapng(QByteArrayView bytes);
+
+// Reads a pcap stream as it arrives (the capture helper's output, or a file
+// in slices): feed it bytes in pieces of any size; the records of every
+// packet that is whole are appended. The same rules and messages as readPcap.
+class PcapStreamReader
+{
+public:
+    PcapStreamReader();
+
+    // False once the stream is not pcap or is damaged; nothing after that is read.
+    bool feed(QByteArrayView bytes, std::vector<PacketRecord> *out);
+    // The stream ended: a packet left half-written becomes a "cut short" warning.
+    void finish();
+
+    bool started() const { return m_started; }
+    qint64 packets() const { return m_packets; }
+    qint64 skipped() const { return m_skipped; }
+    const LogMessage &error() const { return m_error; }
+    const QVector<LogMessage> &warnings() const { return m_warnings; }
+
+private:
+    qint64 consume(QByteArrayView bytes, std::vector<PacketRecord> *out);
+
+    QByteArray m_pending;
+    ByteIo::Reader m_reader;
+    bool m_started = false;
+    bool m_failed = false;
+    bool m_nanoseconds = false;
+    quint32 m_linkType = 0;
+    qint64 m_position = 0; // the stream's byte offset of the next packet
+    qint64 m_packets = 0;
+    qint64 m_skipped = 0;
+    LogMessage m_error;
+    QVector<LogMessage> m_warnings;
+};
 
 } // namespace PacketLog

@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace PacketLog {
@@ -25,21 +26,28 @@ bool logFormatFromName(const QString &name, LogFormat *format)
     return false;
 }
 
-LogLoadResult readPacketLog(QByteArrayView bytes)
+bool logFormatFromSuffix(const QString &path, LogFormat *format)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return logFormatFromName(suffix == QLatin1StringView("txt") ? QStringLiteral("text") : suffix, format)
+        && suffix != QLatin1StringView("text");
+}
+
+LogLoadResult readPacketLog(QByteArrayView bytes, const LogReadProgress &progress)
 {
     if (bytes.size() >= 8 && std::memcmp(bytes.data(), kTlogMagic, 8) == 0)
-        return readTlog(bytes);
+        return readTlog(bytes, progress);
     if (isPcapng(bytes))
-        return readPcapng(bytes);
+        return readPcapng(bytes, progress);
     if (isPcap(bytes))
-        return readPcap(bytes);
+        return readPcap(bytes, progress);
     LogLoadResult result;
     result.error = LogMessage(
         QT_TRANSLATE_NOOP("PacketLog", "This is neither a packet log (.tlog) nor a pcapng or pcap capture."));
     return result;
 }
 
-LogLoadResult loadPacketLog(const QString &path)
+LogLoadResult loadPacketLog(const QString &path, const LogReadProgress &progress)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -47,8 +55,11 @@ LogLoadResult loadPacketLog(const QString &path)
         result.error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "Cannot open %1: %2"), {path, file.errorString()});
         return result;
     }
+    // Mapped rather than read: a capture of a gigabyte is not copied first.
+    if (const uchar *mapped = file.map(0, file.size()))
+        return readPacketLog(QByteArrayView(mapped, file.size()), progress);
     const QByteArray bytes = file.readAll();
-    return readPacketLog(bytes);
+    return readPacketLog(bytes, progress);
 }
 
 bool savePacketLog(const QString &path, LogFormat format, const std::vector<PacketRecord> &records,

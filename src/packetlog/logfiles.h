@@ -14,9 +14,12 @@ enum class LogFormat { Tlog, Csv, Text, Pcapng };
 // "tlog", "csv", "text", "pcapng" (lower case).
 bool logFormatFromName(const QString &name, LogFormat *format);
 
+// The format a file name's suffix names (.tlog, .pcapng, .csv, .txt; any case).
+bool logFormatFromSuffix(const QString &path, LogFormat *format);
+
 // Reads a .tlog, pcapng or pcap file, chosen by its first bytes, not its name.
-LogLoadResult loadPacketLog(const QString &path);
-LogLoadResult readPacketLog(QByteArrayView bytes);
+LogLoadResult loadPacketLog(const QString &path, const LogReadProgress &progress = {});
+LogLoadResult readPacketLog(QByteArrayView bytes, const LogReadProgress &progress = {});
 
 // Writes the records whole (through a temporary file, so a failed write leaves
 // any earlier file in place). False with a message when the file cannot be written.

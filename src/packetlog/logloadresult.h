@@ -5,6 +5,7 @@
 
 #include <QVector>
 
+#include <functional>
 #include <vector>
 
 namespace PacketLog {
@@ -21,5 +22,11 @@ struct LogLoadResult
     std::vector<PacketRecord> records;
     qint64 skipped = 0; // captured packets that were not UDP over IPv4
 };
+
+// Lets a caller watch a long read: called every few thousand records with the
+// result so far and the bytes read. It may move the records out (they are
+// then not in the final result) and returns false to stop reading there.
+using LogReadProgress = std::function<bool(LogLoadResult &partial, qint64 bytesRead)>;
+constexpr size_t kProgressRecords = 16384;
 
 } // namespace PacketLog

@@ -66,7 +66,7 @@ bool decodeTlogRecord(const unsigned char *p, PacketRecord *r)
     return true;
 }
 
-LogLoadResult readTlog(QByteArrayView bytes)
+LogLoadResult readTlog(QByteArrayView bytes, const LogReadProgress &progress)
 {
     LogLoadResult result;
     result.format = QStringLiteral("tlog");
@@ -91,7 +91,7 @@ LogLoadResult readTlog(QByteArrayView bytes)
         return result;
     }
     const qsizetype count = (bytes.size() - headerSize) / kTlogRecordSize;
-    result.records.reserve(size_t(count));
+    result.records.reserve(progress ? kProgressRecords : size_t(count));
     for (qsizetype i = 0; i < count; ++i) {
         PacketRecord record;
         if (!decodeTlogRecord(p + headerSize + i * kTlogRecordSize, &record)) {
@@ -101,6 +101,9 @@ LogLoadResult readTlog(QByteArrayView bytes)
             return result;
         }
         result.records.push_back(record);
+        if (progress && result.records.size() >= kProgressRecords
+            && !progress(result, headerSize + (i + 1) * kTlogRecordSize))
+            return result;
     }
     const qsizetype tail = (bytes.size() - headerSize) % kTlogRecordSize;
     if (tail != 0) {

@@ -38,7 +38,7 @@ void encodeTlogRecord(const PacketRecord &record, unsigned char *out);
 bool decodeTlogRecord(const unsigned char *in, PacketRecord *record);
 
 // A whole file's bytes: header, then every whole record.
-LogLoadResult readTlog(QByteArrayView bytes);
+LogLoadResult readTlog(QByteArrayView bytes, const LogReadProgress &progress = {});
 QByteArray writeTlog(const std::vector<PacketRecord> &records, qint64 createdNs);
 
 } // namespace PacketLog

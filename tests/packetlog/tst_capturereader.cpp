@@ -1,8 +1,11 @@
 #include "cli/samplelog.h"
 #include "packetlog/capturereader.h"
+#include "packetlog/capturesession.h"
 #include "packetlog/pcapngwriter.h"
 
 #include <QBuffer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace PacketLog;
@@ -145,6 +148,79 @@ private slots:
         QVERIFY(r.ok);
         QCOMPARE(int(r.records.size()), records);
         QCOMPARE(r.warnings.constFirst().untranslatedText(), warning);
+        // The capture helper's stream arrives in pieces of any size: the same records, the same message.
+        PcapStreamReader stream;
+        std::vector<PacketRecord> streamed;
+        for (qsizetype i = 0; i < bytes.size(); i += 7)
+            stream.feed(QByteArrayView(bytes).sliced(i, std::min<qsizetype>(7, bytes.size() - i)), &streamed);
+        stream.finish();
+        QCOMPARE(int(streamed.size()), records);
+        QCOMPARE(stream.warnings().constFirst().untranslatedText(), warning);
+    }
+
+    // The capture session with stand-in helpers: what each way of ending says, and what is kept.
+    void captureSession_data()
+    {
+        QTest::addColumn<QString>("script"); // the helper's body; $PCAP is a capture of three packets
+        QTest::addColumn<int>("records");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("stopped as asked") << QStringLiteral("cat \"$PCAP\"") << 3 << QString();
+        QTest::newRow("killed") << QStringLiteral("cat \"$PCAP\"; kill -9 $$") << 3
+            << QStringLiteral("The capture helper stopped unexpectedly; the 3 packets captured until then are kept.");
+        QTest::newRow("not permitted")
+            << QStringLiteral("echo 'talu-capture: cannot capture: no permission' >&2; exit 3") << 0
+            << QStringLiteral("Capturing on talu1 is not permitted (cannot capture: no permission). Only the capture "
+                              "helper may capture: join the group \"talu-capture\" (sudo usermod -aG talu-capture "
+                              "$USER, then log in again), or give a helper you built yourself the right with: sudo "
+                              "setcap cap_net_raw,cap_net_admin=eip HELPER");
+        QTest::newRow("no adapter") << QStringLiteral("exit 4") << 0
+                                    << QStringLiteral("There is no adapter talu1 to capture on.");
+        QTest::newRow("other failure") << QStringLiteral("echo 'talu-capture: capture stopped: gone' >&2; exit 1") << 0
+                                       << QStringLiteral("Capture on talu1 failed: capture stopped: gone");
+        QTest::newRow("damaged stream") << QStringLiteral("head -c 24 \"$PCAP\"; printf '\\377\\377\\377\\377"
+                                                          "\\0\\0\\0\\0\\377\\377\\377\\177xxxx'; sleep 5")
+                                        << 0
+                                        << QStringLiteral("The capture helper's output is damaged: The capture is "
+                                                          "damaged at packet 1 (at byte 24); the 0 packets before it "
+                                                          "were read.");
+        QTest::newRow("no helper") << QString() << 0
+                                   << QStringLiteral("The capture helper (talu-capture) is not installed beside the "
+                                                     "program, so adapter capture is not available.");
+    }
+    void captureSession()
+    {
+        QFETCH(QString, script);
+        QFETCH(int, records);
+        QFETCH(QString, error);
+        QTemporaryDir dir;
+        const QString capture = dir.filePath(QStringLiteral("three.pcap"));
+        const QString helper = dir.filePath(QStringLiteral("talu-capture"));
+        const QByteArray frame = ethernet(ipUdp(makeArtDmx(0x0001, 1, 8, 0)));
+        QFile file(capture);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(pcap(1, {frame, frame, frame}));
+        file.close();
+        if (!script.isNull()) {
+            QFile sh(helper);
+            QVERIFY(sh.open(QIODevice::WriteOnly));
+            sh.write(QStringLiteral("#!/bin/sh\nPCAP='%1'\n%2\n").arg(capture, script).toUtf8());
+            sh.close();
+            sh.setPermissions(sh.permissions() | QFileDevice::ExeOwner);
+        }
+        qputenv("TALU_CAPTURE_HELPER", helper.toUtf8());
+        CaptureSession session;
+        QSignalSpy stopped(&session, &CaptureSession::stopped);
+        session.start(CaptureAdapter{QStringLiteral("talu1"), QString(), {QStringLiteral("192.0.2.2")}});
+        QVERIFY(stopped.count() == 1 || stopped.wait(10000));
+        const std::vector<PacketRecord> taken = session.takeRecords();
+        QCOMPARE(int(taken.size()), records);
+        QCOMPARE(session.recordCount(), qint64(records));
+        for (const PacketRecord &r : taken) {
+            QCOMPARE(r.source, RecordSource::Capture);
+            QCOMPARE(r.direction, Direction::Out); // sent from the adapter's own address
+        }
+        QCOMPARE(stopped.constFirst().constFirst().value<LogMessage>().untranslatedText(),
+                 QString(error).replace(QStringLiteral("HELPER"), helper));
     }
 
     void notACapture()
