@@ -3,6 +3,7 @@
 #include "app/appsettings.h"
 #include "app/menutable.h"
 #include "monitor/pixelcolourbuffer.h"
+#include "packetlog/capturesession.h"
 #include "patch/patchdata.h"
 #include "patch/patchloadresult.h"
 #include "patch/pixellayout.h"
@@ -210,6 +211,9 @@ private:
     bool saveLog(PacketLogWindow *window, const QString &path, const QString &format);
     // Shared recent filters, the save shortcuts and "the window saves apply to".
     void adoptLogWindow(PacketLogWindow *window);
+    // Adapter capture from the live log window's capture bar.
+    void startCapture(const QString &adapterName);
+    void onCaptureStopped(const PacketLog::LogMessage &error);
 
     // Live (mainwindowlive.cpp)
     // The live pipeline, made on first use (listening or the network log).
@@ -261,6 +265,8 @@ private:
     QPointer<PacketLogWindow> m_logWindow;     // the live log window
     QPointer<PacketLogWindow> m_lastLogWindow; // the log window last active
     QString m_networkLogPath;              // where "Save Network Log" writes
+    PacketLog::CaptureSession *m_capture = nullptr; // the live log window's adapter capture
+    QVector<PacketLog::CaptureAdapter> m_captureAdapters;
     UpdateController *m_updates = nullptr;
 
     MoxStyle *m_style = nullptr;

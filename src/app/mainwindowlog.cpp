@@ -1,9 +1,11 @@
 // MainWindow: the network log. The live window follows the node's packet
-// journal; log files open in windows of their own, read-only; saving writes
-// what a window holds, or only what its filter shows.
+// journal and, on request, an adapter capture; log files open in windows of
+// their own, read-only, read in the background; saving writes what a window
+// holds, or only what its filter shows.
 #include "app/mainwindow.h"
 
 #include "live/livepipeline.h"
+#include "packetlog/logfileloader.h"
 #include "packetlog/logfiles.h"
 #include "packetlog/widgets/filterbar.h"
 #include "packetlog/widgets/packetlistmodel.h"
@@ -43,6 +45,21 @@ void MainWindow::showNetworkLog()
         window->setJournal(&ensureLive().journal());
         adoptLogWindow(window);
         m_logWindow = window;
+        if (!m_capture) {
+            m_capture = new PacketLog::CaptureSession(this);
+            connect(m_capture, &PacketLog::CaptureSession::started, this, [this] {
+                if (m_logWindow)
+                    m_logWindow->setCaptureState(true, tr("Capturing on %1.").arg(m_capture->adapterName()));
+            });
+            connect(m_capture, &PacketLog::CaptureSession::stopped, this, &MainWindow::onCaptureStopped);
+        }
+        window->setCaptureSession(m_capture);
+        PacketLog::LogMessage error;
+        if (!PacketLog::listCaptureAdapters(&m_captureAdapters, &error))
+            m_captureAdapters.clear();
+        window->setCaptureAdapters(m_captureAdapters, error.text());
+        connect(window, &PacketLogWindow::captureRequested, this, &MainWindow::startCapture);
+        connect(window, &PacketLogWindow::captureStopRequested, m_capture, &PacketLog::CaptureSession::stop);
     }
     m_logWindow->show();
     m_logWindow->raise();
@@ -58,29 +75,75 @@ void MainWindow::openNetworkLog()
         openNetworkLogFile(path);
 }
 
+void MainWindow::startCapture(const QString &adapterName)
+{
+    auto adapter = std::find_if(m_captureAdapters.cbegin(), m_captureAdapters.cend(),
+                                [&adapterName](const auto &a) { return a.name == adapterName; });
+    if (adapter == m_captureAdapters.cend() || !m_logWindow)
+        return;
+    m_logWindow->setCaptureState(true, tr("Starting the capture on %1...").arg(adapterName));
+    m_capture->start(*adapter);
+}
+
+void MainWindow::onCaptureStopped(const PacketLog::LogMessage &error)
+{
+    const QString name = m_capture->adapterName();
+    const qint64 count = m_capture->recordCount();
+    const qint64 dropped = m_capture->dropped();
+    if (m_logWindow) {
+        m_logWindow->poll(); // the last packets before the list stops taking them
+        m_logWindow->setCaptureState(
+            false, error.isEmpty() ? tr("Capture on %1 stopped: %2 packets, %3 dropped by the system.")
+                                         .arg(name)
+                                         .arg(count)
+                                         .arg(dropped)
+                                   : error.text());
+    }
+    if (!error.isEmpty()) {
+        // Not modal: the list keeps what was captured and the user reads on.
+        auto *box = new QMessageBox(QMessageBox::Warning, tr("Network Log"), error.text(), QMessageBox::Ok,
+                                    m_logWindow ? static_cast<QWidget *>(m_logWindow) : this);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    }
+}
+
 void MainWindow::openNetworkLogFile(const QString &path)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    PacketLog::LogLoadResult result = PacketLog::loadPacketLog(path);
-    QApplication::restoreOverrideCursor();
-    if (!result.ok) {
-        const QString reason = result.error.text();
-        showStatus([reason] { return tr("Network log not opened: %1").arg(reason); }, 0);
-        QMessageBox::warning(this, tr("Network Log"), reason);
-        return;
-    }
-    // A damaged file opens as far as it is whole; the warnings say where it stopped.
-    QStringList warnings;
-    for (const PacketLog::LogMessage &w : result.warnings)
-        warnings << w.text();
+    // Read in the background: the first rows show at once, and Cancel keeps what was read.
     auto *window = new PacketLogWindow(*m_style, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     adoptLogWindow(window);
-    const qint64 count = qint64(result.records.size());
-    window->showFile(path, std::move(result.records), warnings);
-    window->show();
+    window->beginFile(path);
+    auto *loader = new PacketLog::LogFileLoader(window);
+    connect(loader, &PacketLog::LogFileLoader::recordsRead, window,
+            [window](const auto &records, qint64 bytesRead, qint64 bytesTotal) {
+                // Shown with its first rows, so a file that is no log never flashes a window.
+                window->show();
+                window->addFileRecords(records, bytesRead, bytesTotal);
+            });
+    connect(window, &PacketLogWindow::loadCancelRequested, loader, &PacketLog::LogFileLoader::cancel);
     const QString name = QFileInfo(path).fileName();
-    showStatus([name, count] { return tr("Opened %1: %2 records.").arg(name).arg(count); }, 5000);
+    connect(loader, &PacketLog::LogFileLoader::finished, this,
+            [this, window, loader, name](const PacketLog::LogLoadResult &result, bool cancelled) {
+                loader->deleteLater();
+                if (!result.ok) {
+                    window->close();
+                    const QString reason = result.error.text();
+                    showStatus([reason] { return tr("Network log not opened: %1").arg(reason); }, 0);
+                    QMessageBox::warning(this, tr("Network Log"), reason);
+                    return;
+                }
+                // A damaged file opens as far as it is whole; the warnings say where it stopped.
+                QStringList warnings;
+                for (const PacketLog::LogMessage &w : result.warnings)
+                    warnings << w.text();
+                window->endFile(warnings, cancelled);
+                window->show();
+                const qint64 count = window->model()->recordCount();
+                showStatus([name, count] { return tr("Opened %1: %2 records.").arg(name).arg(count); }, 5000);
+            });
+    loader->start(path);
 }
 
 PacketLogWindow *MainWindow::logWindowToSave() const

@@ -13,10 +13,14 @@
 #include "style/moxstyle.h"
 #include "talu_version.h"
 #include "windowdriver.h"
+#include "capturebuilder.h"
 
 #include <QClipboard>
+#include <QComboBox>
+#include <QMessageBox>
 #include <QDropEvent>
 #include <QInputDialog>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
@@ -149,6 +153,7 @@ private slots:
     void droppedFilesLoad();
     void themeAndLanguageDialogs();
     void networkLogFilesOpenReadOnly();
+    void networkLogCapturesFromAnAdapter();
 };
 
 void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
@@ -497,8 +502,9 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
     auto *log = w.findChild<PacketLogWindow *>();
     QVERIFY(log && log->isReadOnly());
     QCOMPARE(log->windowTitle(), QStringLiteral("Network Log - show.tlog (read-only)"));
+    QTRY_COMPARE(status(w), QStringLiteral("Opened show.tlog: 3 records."));
     QCOMPARE(log->model()->rowCount(), 3);
-    QCOMPARE(status(w), QStringLiteral("Opened show.tlog: 3 records."));
+    QVERIFY(!log->isLoading());
     for (QPushButton *b : log->findChildren<QPushButton *>())
         if (b->text() == QLatin1String("Pause") || b->text() == QLatin1String("Clear"))
             QVERIFY2(!b->isEnabled(), qPrintable(b->text())); // a file is not a stream
@@ -515,9 +521,77 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
         qobject_cast<QDialog *>(modal)->accept();
     });
     w.openNetworkLogFile(text);
-    QCOMPARE(title, QStringLiteral("Network Log"));
+    QTRY_COMPARE(title, QStringLiteral("Network Log"));
     QVERIFY(status(w).startsWith(QStringLiteral("Network log not opened: ")));
-    QCOMPARE(w.findChildren<PacketLogWindow *>().size(), 1);
+    QTRY_COMPARE(w.findChildren<PacketLogWindow *>().size(), 1);
+
+    // A long file: its reading stops at Cancel and keeps what was read.
+    std::vector<PacketLog::PacketRecord> many(200000, records.front());
+    const QString big = dir.filePath(QStringLiteral("big.tlog"));
+    QVERIFY(PacketLog::savePacketLog(big, PacketLog::LogFormat::Tlog, many, &error));
+    w.openNetworkLogFile(big);
+    auto *loading = w.findChildren<PacketLogWindow *>().constLast();
+    QVERIFY(loading->isLoading());
+    QPushButton *cancel = nullptr;
+    for (QPushButton *b : loading->findChildren<QPushButton *>())
+        if (b->text() == QLatin1String("Cancel"))
+            cancel = b;
+    QVERIFY(cancel);
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    QTRY_VERIFY(!loading->isLoading());
+    QVERIFY(loading->model()->recordCount() < qint64(many.size()));
+    QVERIFY(loading->findChild<QLabel *>(QStringLiteral("packetLogStatus"))
+                ->text()
+                .endsWith(QStringLiteral(" · Reading stopped; the records read until then are shown.")));
+}
+
+// The capture bar with a stand-in helper (no network): the adapters it lists,
+// the packets it streams appear as capture rows, Stop ends it with a summary,
+// and a refusal is shown in the helper's words while the rows stay.
+void TestMainWindowMenus::networkLogCapturesFromAnAdapter()
+{
+    using namespace TestCapture;
+    QTemporaryDir dir;
+    const QByteArray frame = ipUdp(QByteArray("Art-Net\0\x00\x20\x00\x0e\x00\x00", 14)); // ArtPoll
+    const QString helper = standInHelper(
+        dir.path(), pcap(101, {frame, frame}),
+        QStringLiteral("if [ \"$1\" = --list ]; then printf 'talu1\\tveth\\t192.0.2.1\\n'; exit 0; fi\n"
+                       "[ -e \"$PCAP.refuse\" ] && { echo 'talu-capture: cannot capture: no permission' >&2; exit 3; }\n"
+                       "trap 'exit 0' TERM\ncat \"$PCAP\"\nwhile :; do sleep 0.05; done"));
+    qputenv("TALU_CAPTURE_HELPER", helper.toUtf8());
+    MainWindow w;
+    w.menuAction("Network Log...")->trigger();
+    auto *log = w.findChild<PacketLogWindow *>();
+    QVERIFY(log);
+    auto *adapter = log->findChild<QComboBox *>(QStringLiteral("captureAdapter"));
+    auto *button = log->findChild<QPushButton *>(QStringLiteral("captureButton"));
+    auto *state = log->findChild<QLabel *>(QStringLiteral("captureStatus"));
+    QCOMPARE(adapter->currentText(), QStringLiteral("talu1 (192.0.2.1)"));
+    QCOMPARE(button->text(), QStringLiteral("Start Capture"));
+
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_COMPARE(state->text(), QStringLiteral("Capturing on talu1."));
+    QCOMPARE(button->text(), QStringLiteral("Stop Capture"));
+    QVERIFY(!adapter->isEnabled());
+    QTRY_COMPARE(log->model()->rowCount(), 2);
+    QCOMPARE(log->model()->index(0, PacketListModel::DirectionColumn).data().toString(), QStringLiteral("in"));
+    QCOMPARE(log->model()->recordAt(0).source, PacketLog::RecordSource::Capture);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_COMPARE(state->text(), QStringLiteral("Capture on talu1 stopped: 2 packets, 0 dropped by the system."));
+    QCOMPARE(button->text(), QStringLiteral("Start Capture"));
+
+    QFile refuse(dir.filePath(QStringLiteral("stand-in.pcap.refuse")));
+    QVERIFY(refuse.open(QIODevice::WriteOnly));
+    refuse.close();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_VERIFY(state->text().startsWith(
+        QStringLiteral("Capturing on talu1 is not permitted (cannot capture: no permission). Only the capture helper "
+                       "may capture: join the group \"talu-capture\"")));
+    auto *box = log->findChild<QMessageBox *>();
+    QVERIFY(box && box->isVisible());
+    QCOMPARE(box->text(), state->text());
+    QCOMPARE(log->model()->rowCount(), 2); // what was captured stays
+    qunsetenv("TALU_CAPTURE_HELPER");
 }
 
 QTEST_MAIN(TestMainWindowMenus)

@@ -2,6 +2,7 @@
 #include "packetlog/capturereader.h"
 #include "packetlog/capturesession.h"
 #include "packetlog/pcapngwriter.h"
+#include "capturebuilder.h"
 
 #include <QBuffer>
 #include <QSignalSpy>
@@ -10,51 +11,7 @@
 
 using namespace PacketLog;
 
-namespace {
-
-QByteArray be16(quint16 v)
-{
-    const char b[2] = {char(v >> 8), char(v)};
-    return QByteArray(b, 2);
-}
-QByteArray le32(quint32 v)
-{
-    const char b[4] = {char(v), char(v >> 8), char(v >> 16), char(v >> 24)};
-    return QByteArray(b, 4);
-}
-QByteArray be32(quint32 v) { return be16(quint16(v >> 16)) + be16(quint16(v)); }
-
-// IPv4 (no options, checksum left zero: readers do not check it) + UDP + payload.
-QByteArray ipUdp(const QByteArray &payload, quint8 protocol = 17, quint16 fragment = 0)
-{
-    return QByteArray("\x45\x00", 2) + be16(quint16(28 + payload.size())) // version/IHL, TOS, total length
-         + QByteArray("\x00\x01", 2) + be16(fragment)                     // id, flags/fragment offset
-         + QByteArray("\x40", 1) + QByteArray(1, char(protocol)) + QByteArray(2, '\0') // TTL, protocol, checksum
-         + be32(0xC0000202) + be32(0xC0000201)                           // 192.0.2.2 -> 192.0.2.1
-         + be16(6454) + be16(6455) + be16(quint16(8 + payload.size())) + QByteArray(2, '\0') // UDP
-         + payload;
-}
-
-QByteArray ethernet(const QByteArray &ip, bool vlan = false)
-{
-    QByteArray frame = QByteArray(6, char(0xFF)) + QByteArray("\x02\x00\xC0\x00\x02\x02", 6);
-    if (vlan)
-        frame += QByteArray("\x81\x00\x00\x05", 4); // 802.1Q tag, VLAN 5
-    return frame + QByteArray("\x08\x00", 2) + ip;
-}
-
-// A little-endian microsecond pcap with one link type and the given frames, one second apart.
-QByteArray pcap(quint32 linkType, const QList<QByteArray> &frames)
-{
-    QByteArray file = le32(0xA1B2C3D4) + QByteArray("\x02\x00\x04\x00", 4) + QByteArray(8, '\0') + le32(65535)
-                    + le32(linkType);
-    quint32 second = 1767225600;
-    for (const QByteArray &f : frames)
-        file += le32(second++) + le32(250) + le32(quint32(f.size())) + le32(quint32(f.size())) + f;
-    return file;
-}
-
-} // namespace
+using namespace TestCapture;
 
 class TestCaptureReader : public QObject
 {
@@ -193,20 +150,11 @@ private slots:
         QFETCH(int, records);
         QFETCH(QString, error);
         QTemporaryDir dir;
-        const QString capture = dir.filePath(QStringLiteral("three.pcap"));
-        const QString helper = dir.filePath(QStringLiteral("talu-capture"));
         const QByteArray frame = ethernet(ipUdp(makeArtDmx(0x0001, 1, 8, 0)));
-        QFile file(capture);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(pcap(1, {frame, frame, frame}));
-        file.close();
-        if (!script.isNull()) {
-            QFile sh(helper);
-            QVERIFY(sh.open(QIODevice::WriteOnly));
-            sh.write(QStringLiteral("#!/bin/sh\nPCAP='%1'\n%2\n").arg(capture, script).toUtf8());
-            sh.close();
-            sh.setPermissions(sh.permissions() | QFileDevice::ExeOwner);
-        }
+        QString helper = standInHelper(dir.path(), pcap(1, {frame, frame, frame}), script);
+        QVERIFY(!helper.isEmpty());
+        if (script.isNull())
+            QFile::remove(helper);
         qputenv("TALU_CAPTURE_HELPER", helper.toUtf8());
         CaptureSession session;
         QSignalSpy stopped(&session, &CaptureSession::stopped);

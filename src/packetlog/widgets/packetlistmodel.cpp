@@ -126,14 +126,15 @@ void PacketListModel::appendRecords(const std::vector<PacketRecord> &records)
         if (!m_filter || m_filter->match(r))
             added.push_back(qint64(m_records.size() - 1));
     }
-    if (added.empty())
-        return;
-    const int first = int(m_shown.size());
-    beginInsertRows(QModelIndex(), first, first + int(added.size()) - 1);
-    m_shown.insert(m_shown.end(), added.begin(), added.end());
-    endInsertRows();
-    if (qint64(m_records.size()) > kMaxRecords)
-        dropOldest(qint64(m_records.size()) - kMaxRecords * 3 / 4);
+    if (!added.empty()) {
+        const int first = int(m_shown.size());
+        beginInsertRows(QModelIndex(), first, first + int(added.size()) - 1);
+        m_shown.insert(m_shown.end(), added.begin(), added.end());
+        endInsertRows();
+    }
+    // Also when the filter hides the whole batch: the store stays within its limit.
+    if (m_limit > 0 && qint64(m_records.size()) > m_limit)
+        dropOldest(qint64(m_records.size()) - m_limit * 3 / 4);
 }
 
 void PacketListModel::dropOldest(qint64 count)

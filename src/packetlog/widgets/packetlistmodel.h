@@ -45,6 +45,7 @@ public:
     };
     // The live list keeps at most this many records (about 300 MB); past it
     // the oldest quarter goes (the session's .tlog file keeps everything).
+    // A file's list keeps every record (setRecordLimit(0)).
     static constexpr qint64 kMaxRecords = 1'000'000;
 
     explicit PacketListModel(QObject *parent = nullptr);
@@ -61,6 +62,9 @@ public:
     void setRecords(std::vector<PacketLog::PacketRecord> records);
     // The filter rows must pass (null: every record); the rows are rebuilt once.
     void setFilter(std::shared_ptr<const PacketLog::FilterNode> filter);
+
+    // 0: no limit.
+    void setRecordLimit(qint64 limit) { m_limit = limit; }
 
     qint64 recordCount() const { return qint64(m_records.size()); }
     // Records let go to stay within kMaxRecords.
@@ -86,6 +90,7 @@ private:
     std::shared_ptr<const PacketLog::FilterNode> m_filter;
     qint64 m_firstNumber = 0; // the No. column counts from the first record ever taken
     qint64 m_trimmed = 0;
+    qint64 m_limit = kMaxRecords;
     // Last sequence per sender and Port-Address.
     std::unordered_map<quint64, quint8> m_lastSequence;
     QColor m_failedColour, m_sequenceColour, m_unknownColour;

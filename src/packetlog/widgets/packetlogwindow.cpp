@@ -6,6 +6,7 @@
 #include "packetlog/widgets/packetlistmodel.h"
 #include "style/moxstyle.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -13,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSplitter>
@@ -106,6 +108,29 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent)
     m_hex->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("packetLogStatus"));
+    m_loadProgress = new QProgressBar(this);
+    m_loadProgress->setRange(0, 1000);
+    m_loadProgress->hide();
+    m_cancelLoadButton = new QPushButton(this);
+    m_cancelLoadButton->hide();
+
+    m_captureBar = new QWidget(this);
+    m_adapterLabel = new QLabel(m_captureBar);
+    m_adapterBox = new QComboBox(m_captureBar);
+    m_adapterBox->setObjectName(QStringLiteral("captureAdapter"));
+    m_adapterBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_adapterLabel->setBuddy(m_adapterBox);
+    m_captureButton = new QPushButton(m_captureBar);
+    m_captureButton->setObjectName(QStringLiteral("captureButton"));
+    m_captureStatus = new QLabel(m_captureBar);
+    m_captureStatus->setObjectName(QStringLiteral("captureStatus"));
+    auto *captureRow = new QHBoxLayout(m_captureBar);
+    captureRow->setContentsMargins(0, 0, 0, 0);
+    captureRow->addWidget(m_adapterLabel);
+    captureRow->addWidget(m_adapterBox);
+    captureRow->addWidget(m_captureButton);
+    captureRow->addWidget(m_captureStatus, 1);
+    m_captureBar->hide();
 
     auto *top = new QHBoxLayout;
     top->addWidget(m_filterBar, 1);
@@ -119,10 +144,15 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent)
     split->addWidget(detail);
     split->setStretchFactor(0, 3);
     split->setStretchFactor(1, 1);
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(m_status, 1);
+    bottom->addWidget(m_loadProgress);
+    bottom->addWidget(m_cancelLoadButton);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
+    layout->addWidget(m_captureBar);
     layout->addWidget(split, 1);
-    layout->addWidget(m_status);
+    layout->addLayout(bottom);
 
     connect(m_filterBar, &FilterBar::filterApplied, this, [this](auto filter, const QString &) {
         m_model->setFilter(std::move(filter));
@@ -140,6 +170,13 @@ PacketLogWindow::PacketLogWindow(const MoxStyle &style, QWidget *parent)
         m_hex->clear();
         updateStatus();
     });
+    connect(m_captureButton, &QPushButton::clicked, this, [this] {
+        if (m_capturing)
+            emit captureStopRequested();
+        else if (m_adapterBox->currentIndex() >= 0)
+            emit captureRequested(selectedAdapter());
+    });
+    connect(m_cancelLoadButton, &QPushButton::clicked, this, &PacketLogWindow::loadCancelRequested);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &PacketLogWindow::showSelected);
     connect(m_fields, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
@@ -177,6 +214,8 @@ void PacketLogWindow::setJournal(PacketLog::PacketJournal *journal)
 {
     m_journal = journal;
     m_fileName.clear();
+    m_captureBar->setVisible(journal != nullptr);
+    m_model->setRecordLimit(PacketListModel::kMaxRecords);
     m_seenAppended = journal ? journal->counters().appended : 0;
     // What the journal holds already (the node may have run for a while) comes first.
     m_model->setRecords(journal ? journal->records() : std::vector<PacketLog::PacketRecord>());
@@ -195,29 +234,115 @@ void PacketLogWindow::showFile(const QString &path, std::vector<PacketLog::Packe
     m_fileName = QFileInfo(path).fileName();
     m_warnings = warnings;
     m_dropped = 0;
+    m_captureBar->hide();
+    m_model->setRecordLimit(0);
     m_model->setRecords(std::move(records));
     retranslateUi();
 }
 
+void PacketLogWindow::beginFile(const QString &path)
+{
+    showFile(path, {}, {});
+    m_loadProgress->setValue(0);
+    m_loadProgress->show();
+    m_cancelLoadButton->show();
+    m_cancelLoadButton->setEnabled(true);
+    updateStatus();
+}
+
+void PacketLogWindow::addFileRecords(const std::vector<PacketLog::PacketRecord> &records, qint64 bytesRead,
+                                     qint64 bytesTotal)
+{
+    m_model->appendRecords(records);
+    m_loadProgress->setValue(bytesTotal > 0 ? int(bytesRead * 1000 / bytesTotal) : 0);
+    updateStatus();
+}
+
+void PacketLogWindow::endFile(const QStringList &warnings, bool cancelled)
+{
+    m_warnings = warnings;
+    if (cancelled)
+        m_warnings.prepend(tr("Reading stopped; the records read until then are shown."));
+    m_loadProgress->hide();
+    m_cancelLoadButton->hide();
+    updateStatus();
+}
+
+bool PacketLogWindow::isLoading() const
+{
+    return !m_loadProgress->isHidden();
+}
+
+void PacketLogWindow::setCaptureAdapters(const QVector<PacketLog::CaptureAdapter> &adapters,
+                                         const QString &unavailable)
+{
+    const QString current = selectedAdapter();
+    m_adapterBox->clear();
+    for (const PacketLog::CaptureAdapter &a : adapters) {
+        const QString addresses = a.addresses.join(QStringLiteral(", "));
+        m_adapterBox->addItem(addresses.isEmpty() ? a.name : QStringLiteral("%1 (%2)").arg(a.name, addresses),
+                              a.name);
+        m_adapterBox->setItemData(m_adapterBox->count() - 1, a.description, Qt::ToolTipRole);
+    }
+    if (const int i = m_adapterBox->findData(current); i >= 0)
+        m_adapterBox->setCurrentIndex(i);
+    m_captureUnavailable = unavailable;
+    retranslateUi();
+}
+
+void PacketLogWindow::setCaptureSession(PacketLog::CaptureSession *session)
+{
+    m_capture = session;
+}
+
+void PacketLogWindow::setCaptureState(bool capturing, const QString &text)
+{
+    m_capturing = capturing;
+    m_captureStatus->setText(text);
+    retranslateUi();
+}
+
+QString PacketLogWindow::selectedAdapter() const
+{
+    return m_adapterBox->currentData().toString();
+}
+
 void PacketLogWindow::poll()
 {
+    const bool taking = !m_pauseButton->isChecked() && isVisible();
+    std::vector<PacketLog::PacketRecord> batch;
+    if (m_capture) {
+        // The capture does not wait: what arrives while paused or closed is counted as dropped.
+        batch = m_capture->takeRecords();
+        if (!taking) {
+            m_dropped += qint64(batch.size());
+            batch.clear();
+        }
+    }
     // Hidden (closed) or paused: the journal keeps its ring; what it overwrites
     // meanwhile is counted as dropped at the next look.
-    if (!m_journal || m_pauseButton->isChecked() || !isVisible())
-        return;
-    const qint64 appended = m_journal->counters().appended;
-    const qint64 fresh = appended - m_seenAppended;
-    if (fresh <= 0)
-        return;
-    m_seenAppended = appended;
-    // The ring holds the newest records; what it overwrote before we looked is lost to the list.
-    const int size = m_journal->size();
-    const qint64 available = std::min<qint64>(fresh, size);
-    m_dropped += fresh - available;
-    std::vector<PacketLog::PacketRecord> batch;
-    batch.reserve(size_t(available));
-    for (int i = size - int(available); i < size; ++i)
-        batch.push_back(m_journal->at(i));
+    const qint64 appended = m_journal && taking ? m_journal->counters().appended : m_seenAppended;
+    if (const qint64 fresh = appended - m_seenAppended; fresh > 0) {
+        m_seenAppended = appended;
+        // The ring holds the newest records; what it overwrote before we looked is lost to the list.
+        const int size = m_journal->size();
+        const qint64 available = std::min<qint64>(fresh, size);
+        m_dropped += fresh - available;
+        const bool both = !batch.empty();
+        batch.reserve(batch.size() + size_t(available));
+        for (int i = size - int(available); i < size; ++i)
+            batch.push_back(m_journal->at(i));
+        // The node's records and the adapter's, in the order they happened.
+        if (both)
+            std::stable_sort(batch.begin(), batch.end(),
+                             [](const auto &a, const auto &b) { return a.timeNs < b.timeNs; });
+    }
+    if (!batch.empty())
+        appendBatch(batch);
+}
+
+void PacketLogWindow::appendBatch(const std::vector<PacketLog::PacketRecord> &batch)
+{
     QScrollBar *bar = m_view->verticalScrollBar();
     const bool following = bar->value() >= bar->maximum();
     m_model->appendRecords(batch);
@@ -243,6 +368,14 @@ void PacketLogWindow::showSelected()
         item->setData(0, Qt::UserRole + 1, field.length);
     }
     m_fields->resizeColumnToContents(0);
+}
+
+void PacketLogWindow::hideEvent(QHideEvent *event)
+{
+    // Nobody watches a capture in a closed window.
+    if (m_capturing)
+        emit captureStopRequested();
+    QWidget::hideEvent(event);
 }
 
 QString PacketLogWindow::statusText() const
@@ -280,6 +413,22 @@ void PacketLogWindow::retranslateUi()
     m_fields->setHeaderLabels({tr("Field"), tr("Value")});
     m_fields->setAccessibleName(tr("Packet fields"));
     m_hex->setAccessibleName(tr("Packet bytes"));
+    m_adapterLabel->setText(tr("Capture on:"));
+    m_adapterBox->setAccessibleName(tr("Capture adapter"));
+    m_adapterBox->setToolTip(m_captureUnavailable.isEmpty()
+                                 ? tr("The network adapter to capture Art-Net from, as a packet analyser does.")
+                                 : m_captureUnavailable);
+    m_adapterBox->setEnabled(!m_capturing && m_adapterBox->count() > 0);
+    m_captureButton->setText(m_capturing ? tr("Stop Capture") : tr("Start Capture"));
+    m_captureButton->setToolTip(
+        tr("Capture every Art-Net packet on the adapter, also those not meant for this node."));
+    m_captureButton->setEnabled(m_capturing || m_adapterBox->count() > 0);
+    if (!m_capturing && m_captureStatus->text().isEmpty() && !m_captureUnavailable.isEmpty())
+        m_captureStatus->setText(m_captureUnavailable);
+    m_captureStatus->setAccessibleName(tr("Capture state"));
+    m_loadProgress->setAccessibleName(tr("Reading the file"));
+    m_cancelLoadButton->setText(tr("Cancel"));
+    m_cancelLoadButton->setToolTip(tr("Stop reading the file and keep the records read so far."));
     updateStatus();
 }
 
