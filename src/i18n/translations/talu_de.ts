@@ -1305,6 +1305,18 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>See every packet this node receives and sends.</source>
         <translation>Jedes Paket anzeigen, das dieser Node empfängt und sendet.</translation>
     </message>
+    <message>
+        <source>Capturing on %1.</source>
+        <translation>Mitschnitt auf %1 läuft.</translation>
+    </message>
+    <message>
+        <source>Starting the capture on %1...</source>
+        <translation>Mitschnitt auf %1 wird gestartet...</translation>
+    </message>
+    <message>
+        <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
+        <translation>Mitschnitt auf %1 gestoppt: %2 Pakete, %3 vom System verworfen.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1534,6 +1546,38 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
         <translation>Das Paket-Log bricht bei Datensatz %1 ab (bei Byte %2); die %3 Datensätze davor wurden gelesen.</translation>
     </message>
+    <message>
+        <source>The capture helper (%1) is not installed beside the program, so adapter capture is not available.</source>
+        <translation>Das Mitschnitt-Hilfsprogramm (%1) ist nicht neben dem Programm installiert, daher ist der Mitschnitt an einem Adapter nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>The capture helper could not list the adapters: %1</source>
+        <translation>Das Mitschnitt-Hilfsprogramm konnte die Adapter nicht auflisten: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper could not be started: %1</source>
+        <translation>Das Mitschnitt-Hilfsprogramm konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper&apos;s output is damaged: %1</source>
+        <translation>Die Ausgabe des Mitschnitt-Hilfsprogramms ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper stopped unexpectedly; the %1 packets captured until then are kept.</source>
+        <translation>Das Mitschnitt-Hilfsprogramm wurde unerwartet beendet; die %1 bis dahin mitgeschnittenen Pakete bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Capturing on %1 is not permitted (%2). Only the capture helper may capture: join the group &quot;%3&quot; (sudo usermod -aG %3 $USER, then log in again), or give a helper you built yourself the right with: sudo setcap cap_net_raw,cap_net_admin=eip %4</source>
+        <translation>Mitschneiden auf %1 ist nicht erlaubt (%2). Nur das Mitschnitt-Hilfsprogramm darf mitschneiden: Treten Sie der Gruppe &quot;%3&quot; bei (sudo usermod -aG %3 $USER, danach neu anmelden), oder geben Sie einem selbst gebauten Hilfsprogramm das Recht mit: sudo setcap cap_net_raw,cap_net_admin=eip %4</translation>
+    </message>
+    <message>
+        <source>There is no adapter %1 to capture on.</source>
+        <translation>Es gibt keinen Adapter %1 zum Mitschneiden.</translation>
+    </message>
+    <message>
+        <source>Capture on %1 failed: %2</source>
+        <translation>Mitschnitt auf %1 fehlgeschlagen: %2</translation>
+    </message>
 </context>
 <context>
     <name>PacketLogWindow</name>
@@ -1584,6 +1628,50 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>Packet bytes</source>
         <translation>Paketbytes</translation>
+    </message>
+    <message>
+        <source>Reading stopped; the records read until then are shown.</source>
+        <translation>Einlesen abgebrochen; die bis dahin gelesenen Datensätze werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>Capture on:</source>
+        <translation>Mitschnitt auf:</translation>
+    </message>
+    <message>
+        <source>Capture adapter</source>
+        <translation>Mitschnitt-Adapter</translation>
+    </message>
+    <message>
+        <source>The network adapter to capture Art-Net from, as a packet analyser does.</source>
+        <translation>Der Netzwerkadapter, an dem Art-Net mitgeschnitten wird, wie es ein Paketanalysator tut.</translation>
+    </message>
+    <message>
+        <source>Stop Capture</source>
+        <translation>Mitschnitt stoppen</translation>
+    </message>
+    <message>
+        <source>Start Capture</source>
+        <translation>Mitschnitt starten</translation>
+    </message>
+    <message>
+        <source>Capture every Art-Net packet on the adapter, also those not meant for this node.</source>
+        <translation>Jedes Art-Net-Paket am Adapter mitschneiden, auch die nicht für diesen Node bestimmten.</translation>
+    </message>
+    <message>
+        <source>Capture state</source>
+        <translation>Mitschnittstatus</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>Datei wird gelesen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop reading the file and keep the records read so far.</source>
+        <translation>Einlesen der Datei abbrechen und die bisher gelesenen Datensätze behalten.</translation>
     </message>
 </context>
 <context>

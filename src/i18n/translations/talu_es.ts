@@ -1305,6 +1305,18 @@ Tocar la vista con el ratón lo detiene.</translation>
         <source>See every packet this node receives and sends.</source>
         <translation>Muestra cada paquete que este nodo recibe y envía.</translation>
     </message>
+    <message>
+        <source>Capturing on %1.</source>
+        <translation>Capturando en %1.</translation>
+    </message>
+    <message>
+        <source>Starting the capture on %1...</source>
+        <translation>Iniciando la captura en %1...</translation>
+    </message>
+    <message>
+        <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
+        <translation>Captura en %1 detenida: %2 paquetes, %3 descartados por el sistema.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1534,6 +1546,38 @@ Tocar la vista con el ratón lo detiene.</translation>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
         <translation>El registro de paquetes está cortado en la entrada %1 (en el byte %2); se leyeron las %3 entradas anteriores.</translation>
     </message>
+    <message>
+        <source>The capture helper (%1) is not installed beside the program, so adapter capture is not available.</source>
+        <translation>El programa auxiliar de captura (%1) no está instalado junto al programa, así que la captura en un adaptador no está disponible.</translation>
+    </message>
+    <message>
+        <source>The capture helper could not list the adapters: %1</source>
+        <translation>El programa auxiliar de captura no pudo listar los adaptadores: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper could not be started: %1</source>
+        <translation>No se pudo iniciar el programa auxiliar de captura: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper&apos;s output is damaged: %1</source>
+        <translation>La salida del programa auxiliar de captura está dañada: %1</translation>
+    </message>
+    <message>
+        <source>The capture helper stopped unexpectedly; the %1 packets captured until then are kept.</source>
+        <translation>El programa auxiliar de captura se detuvo inesperadamente; se conservan los %1 paquetes capturados hasta entonces.</translation>
+    </message>
+    <message>
+        <source>Capturing on %1 is not permitted (%2). Only the capture helper may capture: join the group &quot;%3&quot; (sudo usermod -aG %3 $USER, then log in again), or give a helper you built yourself the right with: sudo setcap cap_net_raw,cap_net_admin=eip %4</source>
+        <translation>No se permite capturar en %1 (%2). Solo el programa auxiliar de captura puede capturar: únase al grupo &quot;%3&quot; (sudo usermod -aG %3 $USER y luego vuelva a iniciar sesión), o dé ese derecho a un programa auxiliar que haya compilado usted mismo con: sudo setcap cap_net_raw,cap_net_admin=eip %4</translation>
+    </message>
+    <message>
+        <source>There is no adapter %1 to capture on.</source>
+        <translation>No hay ningún adaptador %1 en el que capturar.</translation>
+    </message>
+    <message>
+        <source>Capture on %1 failed: %2</source>
+        <translation>La captura en %1 falló: %2</translation>
+    </message>
 </context>
 <context>
     <name>PacketLogWindow</name>
@@ -1584,6 +1628,50 @@ Tocar la vista con el ratón lo detiene.</translation>
     <message>
         <source>Packet bytes</source>
         <translation>Bytes del paquete</translation>
+    </message>
+    <message>
+        <source>Reading stopped; the records read until then are shown.</source>
+        <translation>Lectura detenida; se muestran las entradas leídas hasta entonces.</translation>
+    </message>
+    <message>
+        <source>Capture on:</source>
+        <translation>Capturar en:</translation>
+    </message>
+    <message>
+        <source>Capture adapter</source>
+        <translation>Adaptador de captura</translation>
+    </message>
+    <message>
+        <source>The network adapter to capture Art-Net from, as a packet analyser does.</source>
+        <translation>El adaptador de red desde el que capturar Art-Net, como hace un analizador de paquetes.</translation>
+    </message>
+    <message>
+        <source>Stop Capture</source>
+        <translation>Detener captura</translation>
+    </message>
+    <message>
+        <source>Start Capture</source>
+        <translation>Iniciar captura</translation>
+    </message>
+    <message>
+        <source>Capture every Art-Net packet on the adapter, also those not meant for this node.</source>
+        <translation>Captura cada paquete Art-Net del adaptador, también los que no van dirigidos a este nodo.</translation>
+    </message>
+    <message>
+        <source>Capture state</source>
+        <translation>Estado de la captura</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>Leyendo el archivo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Stop reading the file and keep the records read so far.</source>
+        <translation>Deja de leer el archivo y conserva las entradas leídas hasta ahora.</translation>
     </message>
 </context>
 <context>

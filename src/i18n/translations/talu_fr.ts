@@ -1305,6 +1305,18 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>See every packet this node receives and sends.</source>
         <translation>Affiche chaque paquet que ce nœud reçoit et envoie.</translation>
     </message>
+    <message>
+        <source>Capturing on %1.</source>
+        <translation>Capture sur %1 en cours.</translation>
+    </message>
+    <message>
+        <source>Starting the capture on %1...</source>
+        <translation>Démarrage de la capture sur %1...</translation>
+    </message>
+    <message>
+        <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
+        <translation>Capture sur %1 arrêtée : %2 paquets, %3 perdus par le système.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1534,6 +1546,38 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>The packet log is cut short in record %1 (at byte %2); the %3 records before it were read.</source>
         <translation>Le journal de paquets s&apos;interrompt à l&apos;entrée %1 (octet %2) ; les %3 entrées précédentes ont été lues.</translation>
     </message>
+    <message>
+        <source>The capture helper (%1) is not installed beside the program, so adapter capture is not available.</source>
+        <translation>L&apos;utilitaire de capture (%1) n&apos;est pas installé à côté du programme ; la capture sur une carte réseau n&apos;est donc pas disponible.</translation>
+    </message>
+    <message>
+        <source>The capture helper could not list the adapters: %1</source>
+        <translation>L&apos;utilitaire de capture n&apos;a pas pu lister les cartes réseau : %1</translation>
+    </message>
+    <message>
+        <source>The capture helper could not be started: %1</source>
+        <translation>L&apos;utilitaire de capture n&apos;a pas pu être démarré : %1</translation>
+    </message>
+    <message>
+        <source>The capture helper&apos;s output is damaged: %1</source>
+        <translation>La sortie de l&apos;utilitaire de capture est endommagée : %1</translation>
+    </message>
+    <message>
+        <source>The capture helper stopped unexpectedly; the %1 packets captured until then are kept.</source>
+        <translation>L&apos;utilitaire de capture s&apos;est arrêté de manière inattendue ; les %1 paquets capturés jusque-là sont conservés.</translation>
+    </message>
+    <message>
+        <source>Capturing on %1 is not permitted (%2). Only the capture helper may capture: join the group &quot;%3&quot; (sudo usermod -aG %3 $USER, then log in again), or give a helper you built yourself the right with: sudo setcap cap_net_raw,cap_net_admin=eip %4</source>
+        <translation>La capture sur %1 n&apos;est pas autorisée (%2). Seul l&apos;utilitaire de capture peut capturer : rejoignez le groupe « %3 » (sudo usermod -aG %3 $USER, puis reconnectez-vous), ou donnez ce droit à un utilitaire que vous avez compilé vous-même avec : sudo setcap cap_net_raw,cap_net_admin=eip %4</translation>
+    </message>
+    <message>
+        <source>There is no adapter %1 to capture on.</source>
+        <translation>Il n&apos;y a aucune carte réseau %1 sur laquelle capturer.</translation>
+    </message>
+    <message>
+        <source>Capture on %1 failed: %2</source>
+        <translation>Échec de la capture sur %1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>PacketLogWindow</name>
@@ -1584,6 +1628,50 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <message>
         <source>Packet bytes</source>
         <translation>Octets du paquet</translation>
+    </message>
+    <message>
+        <source>Reading stopped; the records read until then are shown.</source>
+        <translation>Lecture arrêtée ; les entrées lues jusque-là sont affichées.</translation>
+    </message>
+    <message>
+        <source>Capture on:</source>
+        <translation>Capture sur :</translation>
+    </message>
+    <message>
+        <source>Capture adapter</source>
+        <translation>Carte réseau de capture</translation>
+    </message>
+    <message>
+        <source>The network adapter to capture Art-Net from, as a packet analyser does.</source>
+        <translation>La carte réseau sur laquelle capturer l&apos;Art-Net, comme le fait un analyseur de paquets.</translation>
+    </message>
+    <message>
+        <source>Stop Capture</source>
+        <translation>Arrêter la capture</translation>
+    </message>
+    <message>
+        <source>Start Capture</source>
+        <translation>Démarrer la capture</translation>
+    </message>
+    <message>
+        <source>Capture every Art-Net packet on the adapter, also those not meant for this node.</source>
+        <translation>Capturer chaque paquet Art-Net sur la carte réseau, y compris ceux qui ne sont pas destinés à ce nœud.</translation>
+    </message>
+    <message>
+        <source>Capture state</source>
+        <translation>État de la capture</translation>
+    </message>
+    <message>
+        <source>Reading the file</source>
+        <translation>Lecture du fichier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stop reading the file and keep the records read so far.</source>
+        <translation>Arrêter la lecture du fichier et conserver les entrées lues jusqu&apos;ici.</translation>
     </message>
 </context>
 <context>
