@@ -222,6 +222,11 @@ void TestPacketLogWindow::rowsThatMustStandOut()
     QVERIFY(!colour(4).isValid());
     QCOMPARE(window.model()->data(window.model()->index(3, PacketListModel::OpCodeColumn)).toString(),
              QStringLiteral("OpCode 0x7f00"));
+    // A capture's copy of a packet the node logged is no repeat of it.
+    PacketRecord copy = window.model()->recordAt(4);
+    copy.source = RecordSource::Capture;
+    window.model()->appendRecords({copy});
+    QVERIFY(!colour(5).isValid());
 }
 
 QTEST_MAIN(TestPacketLogWindow)

@@ -109,7 +109,13 @@ quint8 PacketListModel::markOf(const PacketRecord &r)
     if (r.isArtNet() && PacketLog::opcodeName(r.opcode).startsWith(QLatin1String("OpCode")))
         mark |= UnknownOpCode;
     if (r.isDmx() && r.sequence != 0) {
-        quint8 &last = m_lastSequence[(quint64(r.srcIp) << 16) | r.portAddress];
+        // Per sender and universe, and apart for each way the packet was seen:
+        // the node's own record and a capture's copy of the same packet (or a
+        // loopback capture's sent and received copies) are not a repeat.
+        const quint64 key = (quint64(r.srcIp) << 18) | (quint64(r.portAddress) << 2)
+                          | (r.source == PacketLog::RecordSource::Capture ? 2u : 0u)
+                          | (r.direction == PacketLog::Direction::Out ? 1u : 0u);
+        quint8 &last = m_lastSequence[key];
         if (last != 0 && ArtNet::isSequenceError(last, r.sequence))
             mark |= SequenceError;
         last = r.sequence;

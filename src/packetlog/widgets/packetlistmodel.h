@@ -91,7 +91,7 @@ private:
     qint64 m_firstNumber = 0; // the No. column counts from the first record ever taken
     qint64 m_trimmed = 0;
     qint64 m_limit = kMaxRecords;
-    // Last sequence per sender and Port-Address.
+    // Last sequence per sender, Port-Address, source and direction.
     std::unordered_map<quint64, quint8> m_lastSequence;
     QColor m_failedColour, m_sequenceColour, m_unknownColour;
 };
