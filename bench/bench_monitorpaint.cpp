@@ -1,7 +1,7 @@
 // Painting one full fitted monitor frame into a 1920 x 1080 image, against
-// the targets: 2D 100,000 pixels under 8 ms; 3D fast draw 100,000 points under
-// 12 ms; fast draw at least 3 x faster than round dots; no allocation per point
-// in the 3D paint loop. Every pixel gets its own colour, so every point
+// the targets: 2D 100,000 pixels under 8 ms; 3D round dots 100,000 points
+// under 20 ms (stamped, anti-aliased); fast draw under 12 ms; no allocation
+// per point in the 3D paint loop. Every pixel gets its own colour, so every point
 // changes the brush (the worst case).
 #include "alloccounter.h"
 #include "monitor/model3d.h"
@@ -130,8 +130,9 @@ void run3D(benchmark::State &state, bool fastDraw, bool turning)
     }
     state.counters["allocs_per_frame"] = double(frameAllocations);
     state.counters["allocs_per_point"] = double(frameAllocations) / double(model.positions.size());
-    QString label = fastDraw && state.range(0) == 100000 && !turning ? QStringLiteral("target < 12 ms")
-                                                                      : QStringLiteral("no target");
+    QString label = QStringLiteral("no target");
+    if (state.range(0) == 100000 && !turning)
+        label = fastDraw ? QStringLiteral("target < 12 ms") : QStringLiteral("target < 20 ms");
     label += QStringLiteral(", 0 allocs per point");
     if (!AllocCounter::available())
         label += QStringLiteral(" (allocs not counted here)");

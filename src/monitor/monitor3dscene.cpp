@@ -91,10 +91,11 @@ void Monitor3DScene::updateDrawOrder()
 
 void Monitor3DScene::paint(QPainter &painter)
 {
-    // Fast draw on an unscaled device writes the squares straight into an
-    // image of the view, background included, and hands the painter one
-    // blit: the per-call cost of a painter fill is most of a small square's.
-    const bool direct = m_fastDraw && painter.deviceTransform().type() <= QTransform::TxTranslate && ensureBackground();
+    // On an unscaled device the dots (stamped, anti-aliased) or fast draw's
+    // squares go straight into an image of the view, background included,
+    // and the painter gets one blit: the per-call cost of a painter fill is
+    // most of a small dot's.
+    const bool direct = painter.deviceTransform().type() <= QTransform::TxTranslate && ensureBackground();
     if (!direct)
         paintBackground(painter);
     painter.setRenderHint(QPainter::Antialiasing, true);
@@ -203,6 +204,14 @@ void Monitor3DScene::paintPointsDirect(QPainter &painter, double r, const QRectF
     // Image pixel of a point: painter coordinates are panned view coordinates.
     const double originX = m_camera.pan.x() - m_viewRect.left();
     const double originY = m_camera.pan.y() - m_viewRect.top();
+    if (!m_fastDraw) {
+        m_dots.prepare(r);
+        forEachVisiblePoint(cull, [&](double x, double y, QRgb colour) {
+            m_dots.stamp(bits, stride, width, height, x + originX, y + originY, colour);
+        });
+        painter.drawImage(m_viewRect.topLeft() - m_camera.pan, m_layer);
+        return;
+    }
     forEachVisiblePoint(cull, [&](double x, double y, QRgb colour) {
         // Rounded like the raster engine's rectangle fill; never thinner than a pixel.
         int x1 = qRound(x - r + originX), x2 = qRound(x + r + originX);

@@ -2,6 +2,7 @@
 
 #include "monitor/brushcycler.h"
 #include "monitor/camera3d.h"
+#include "monitor/dotstamps.h"
 
 #include <QImage>
 #include <QRectF>
@@ -83,5 +84,6 @@ private:
     bool m_orderValid = false;
     BrushCycler m_brush;
     QImage m_background; // the gradient, drawn once per size
-    QImage m_layer;      // fast draw's picture, kept between frames
+    QImage m_layer;      // the picture drawn directly, kept between frames
+    DotStamps m_dots;
 };
