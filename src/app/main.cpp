@@ -24,16 +24,19 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("Torvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Art-Net Tester"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TALU_VERSION));
+    // Matches the windows to the installed desktop entry (taskbar icon and name).
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.torvane.Talu"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Torvane TALU - see what an LED installation shows for a "
                                                     "stream of Art-Net DMX data."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("patch"), QStringLiteral("Patch to load (.tpatch, .mpz, .elm)."),
-                                 QStringLiteral("[PATCH]"));
-    parser.addPositionalArgument(QStringLiteral("recording"), QStringLiteral("Recording to load (.tpx)."),
-                                 QStringLiteral("[RECORDING]"));
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QStringLiteral("Files to open, by their type: a patch (.tpatch, .mpz, .elm, "
+                                                ".elmbackup), a recording (.tpx), network logs (.tlog, .pcapng, "
+                                                ".pcap)."),
+                                 QStringLiteral("[FILE...]"));
     const QCommandLineOption themeOption(QStringLiteral("theme"),
                                          QStringLiteral("Use this interface theme for this run only (%1).")
                                              .arg(MoxStyle().themeIds().join(QStringLiteral(", "))),
@@ -70,7 +73,7 @@ int main(int argc, char *argv[])
     auto window = std::make_unique<MainWindow>(&style);
     window->setTranslator(&translator);
     window->show();
-    window->openFiles(files.value(0), files.value(1));
+    window->openPaths(files);
     // After the window is up and never in its way: the check runs on the event loop.
     window->updateController()->startBackgroundCheck();
     const int exitCode = app->exec();

@@ -79,6 +79,9 @@ public:
 
     // Loads the files named on the command line: a patch, then a recording.
     void openFiles(const QString &patchPath, const QString &recordingPath);
+    // Files by their type, as given on the command line or dropped: a patch, a
+    // recording, network logs (.tlog, .pcapng, .pcap) in windows of their own.
+    void openPaths(const QStringList &paths);
     // Where import reports go; empty (the default) is the program's logs folder.
     void setImportLogsFolder(const QString &folder) { m_importLogsFolder = folder; }
 
@@ -202,6 +205,7 @@ private:
     void chooseTheme();
     void chooseLanguage();
     void showReleaseNotes();
+    void showUserManual();
     void openLogsFolder();
     void showAbout();
 

@@ -54,12 +54,15 @@ void MainWindow::showNetworkLog()
             connect(m_capture, &PacketLog::CaptureSession::stopped, this, &MainWindow::onCaptureStopped);
         }
         window->setCaptureSession(m_capture);
+        connect(window, &PacketLogWindow::captureRequested, this, &MainWindow::startCapture);
+        connect(window, &PacketLogWindow::captureStopRequested, m_capture, &PacketLog::CaptureSession::stop);
+    }
+    // Asked again at every opening: an adapter plugged in meanwhile is offered.
+    if (!m_capture->isRunning()) {
         PacketLog::LogMessage error;
         if (!PacketLog::listCaptureAdapters(&m_captureAdapters, &error))
             m_captureAdapters.clear();
-        window->setCaptureAdapters(m_captureAdapters, error.text());
-        connect(window, &PacketLogWindow::captureRequested, this, &MainWindow::startCapture);
-        connect(window, &PacketLogWindow::captureStopRequested, m_capture, &PacketLog::CaptureSession::stop);
+        m_logWindow->setCaptureAdapters(m_captureAdapters, error.text());
     }
     m_logWindow->show();
     m_logWindow->raise();

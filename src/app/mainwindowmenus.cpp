@@ -77,14 +77,21 @@ bool isRecordingFile(const QString &path)
     return QFileInfo(path).suffix().compare(QLatin1String("tpx"), Qt::CaseInsensitive) == 0;
 }
 
+bool isNetworkLogFile(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == QLatin1String("tlog") || suffix == QLatin1String("pcapng") || suffix == QLatin1String("pcap");
+}
+
 QStringList droppedFiles(const QMimeData *mime)
 {
     QStringList files;
     if (!mime || !mime->hasUrls())
         return files;
     for (const QUrl &url : mime->urls())
-        if (url.isLocalFile() && (isPatchFile(url.toLocalFile()) || isRecordingFile(url.toLocalFile())))
-            files << url.toLocalFile();
+        if (const QString path = url.toLocalFile();
+            url.isLocalFile() && (isPatchFile(path) || isRecordingFile(path) || isNetworkLogFile(path)))
+            files << path;
     return files;
 }
 
@@ -271,7 +278,9 @@ void MainWindow::buildMenus()
             QT_TR_NOOP("Patches that produced import warnings are kept here together with the messages.")),
         &QAction::triggered, this, &MainWindow::openLogsFolder);
     help->addSeparator();
-    m_menus.addPlanned(help, QT_TR_NOOP("User Manual"));
+    connect(m_menus.addEntry(help, QT_TR_NOOP("User Manual"), QKeySequence(),
+                             QT_TR_NOOP("How to load a patch, play, go live, record, log and capture.")),
+            &QAction::triggered, this, &MainWindow::showUserManual);
     connect(m_menus.addEntry(help, QT_TR_NOOP("Check for Updates..."), QKeySequence()), &QAction::triggered,
             this, [this] { m_updates->checkNow(); });
     connect(m_menus.addEntry(help, QT_TR_NOOP("About"), QKeySequence(), nullptr,
@@ -582,6 +591,17 @@ void MainWindow::showReleaseNotes()
     openPlainDialog(this, QStringLiteral("releaseNotesDialog"), tr("Release Notes"), text, QSize(560, 480));
 }
 
+void MainWindow::showUserManual()
+{
+    // The manual in the repository (docs/manual.md), with its pictures beside it in the resources.
+    auto *text = new QTextBrowser;
+    text->setObjectName(QStringLiteral("userManualText"));
+    text->setAccessibleName(tr("User Manual"));
+    text->setOpenExternalLinks(true);
+    text->setSource(QUrl(QStringLiteral("qrc:/manual/manual.md")), QTextDocument::MarkdownResource);
+    openPlainDialog(this, QStringLiteral("userManualDialog"), tr("User Manual"), text, QSize(820, 700));
+}
+
 void MainWindow::openLogsFolder()
 {
     const QString folder = m_importLogsFolder.isEmpty() ? TPatch::importLogsFolder() : m_importLogsFolder;
@@ -608,7 +628,7 @@ void MainWindow::showAbout()
             .arg(QStringLiteral(TALU_VERSION).toHtmlEscaped(),
                  tr("See what an LED installation shows for a stream of Art-Net DMX data.").toHtmlEscaped()));
     box->setInformativeText(
-        QStringLiteral("<p>%1</p><p>%2</p><p>%3</p><ul><li>%4</li><li>%5</li></ul><p>%6</p>")
+        QStringLiteral("<p>%1</p><p>%2</p><p>%3</p><ul><li>%4</li><li>%5</li><li>%6</li></ul><p>%7</p>")
             .arg(tr("Version %1, built %2.")
                      .arg(QStringLiteral(TALU_VERSION), QStringLiteral(__DATE__))
                      .toHtmlEscaped(),
@@ -618,6 +638,7 @@ void MainWindow::showAbout()
                      .arg(QString::fromLatin1(qVersion()))
                      .toHtmlEscaped(),
                  tr("zlib (Jean-loup Gailly and Mark Adler), under the zlib licence.").toHtmlEscaped(),
+                 tr("libpcap (The Tcpdump Group), in the capture helper, under the BSD licence.").toHtmlEscaped(),
                  tr("Torvane TALU is © 2026 Torvane. All rights reserved.").toHtmlEscaped()));
     box->setStandardButtons(QMessageBox::Ok);
     box->addButton(tr("About Qt"), QMessageBox::HelpRole);
@@ -642,16 +663,33 @@ void MainWindow::dropEvent(QDropEvent *event)
     event->acceptProposedAction();
     // Loaded after the drop has ended: a failing patch opens a dialog, and the
     // file manager the files came from must not wait for it.
-    QMetaObject::invokeMethod(
-        this,
-        [this, files] {
-            // A patch first, so a recording dropped with it is evaluated against it.
-            const auto patch = std::find_if(files.cbegin(), files.cend(), isPatchFile);
-            if (patch != files.cend())
-                openPatch(*patch);
-            const auto recording = std::find_if(files.cbegin(), files.cend(), isRecordingFile);
-            if (recording != files.cend())
-                openRecording(*recording);
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this, files] { openPaths(files); }, Qt::QueuedConnection);
+}
+
+void MainWindow::openPaths(const QStringList &paths)
+{
+    // A patch first, so a recording that comes with it is evaluated against it;
+    // every network log opens in a window of its own.
+    QString patch, recording;
+    QStringList logs, unknown;
+    for (const QString &path : paths) {
+        if (isPatchFile(path) && patch.isEmpty())
+            patch = path;
+        else if (isRecordingFile(path) && recording.isEmpty())
+            recording = path;
+        else if (isNetworkLogFile(path))
+            logs << path;
+        else
+            unknown << path;
+    }
+    // A name the program does not know by its suffix: as before, the first is the patch, the next the recording.
+    for (const QString &path : std::as_const(unknown)) {
+        if (patch.isEmpty())
+            patch = path;
+        else if (recording.isEmpty())
+            recording = path;
+    }
+    openFiles(patch, recording);
+    for (const QString &log : std::as_const(logs))
+        openNetworkLogFile(log);
 }

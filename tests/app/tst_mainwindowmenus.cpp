@@ -86,7 +86,7 @@ const Entry kEntries[] = {
     {"&Help", "Release Notes", "", 'a', false},
     {"&Help", "Keyboard Shortcuts", "F1", 'a', false},
     {"&Help", "Open Logs Folder", "", 'a', false},
-    {"&Help", "User Manual", "", 'p', false},
+    {"&Help", "User Manual", "", 'a', false},
     {"&Help", "Check for Updates...", "", 'a', false},
     {"&Help", "About", "", 'a', true},
 };
@@ -400,7 +400,7 @@ void TestMainWindowMenus::helpEntriesShowWhatTheySay()
     QVERIFY(about->text().contains(QStringLiteral("Torvane TALU " TALU_VERSION)));
     const QString credits = about->informativeText();
     for (const QString &part :
-         {QStringLiteral("Running on Qt %1.").arg(qVersion()), QStringLiteral("zlib"),
+         {QStringLiteral("Running on Qt %1.").arg(qVersion()), QStringLiteral("zlib"), QStringLiteral("libpcap"),
           QStringLiteral("GNU Lesser General Public License version 3"), QStringLiteral("© 2026 Torvane")})
         QVERIFY2(credits.contains(part), qPrintable(part));
     about->close();
@@ -410,6 +410,16 @@ void TestMainWindowMenus::helpEntriesShowWhatTheySay()
     QVERIFY(notes);
     QVERIFY(notes->toPlainText().startsWith(QStringLiteral(TALU_VERSION)));
     QVERIFY(notes->toPlainText().contains(QStringLiteral("Live broadcast")));
+
+    // The manual with its pictures, all from the resources.
+    w.menuAction("User Manual")->trigger();
+    auto *manual = w.findChild<QTextBrowser *>(QStringLiteral("userManualText"));
+    QVERIFY(manual);
+    QVERIFY(manual->toPlainText().contains(QStringLiteral("Capturing from a network adapter")));
+    const QImage picture = manual->document()
+                               ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("network-log.png")))
+                               .value<QImage>();
+    QCOMPARE(picture.size(), QImage(QStringLiteral(TALU_SOURCE_DIR "/docs/network-log.png")).size());
 
     QTemporaryDir dir;
     w.setImportLogsFolder(dir.filePath(QStringLiteral("logs")));
@@ -498,7 +508,7 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
     PacketLog::LogMessage error;
     QVERIFY(PacketLog::savePacketLog(path, PacketLog::LogFormat::Tlog, records, &error));
     MainWindow w;
-    w.openNetworkLogFile(path);
+    w.openPaths({path}); // as from the command line: a log by its suffix
     auto *log = w.findChild<PacketLogWindow *>();
     QVERIFY(log && log->isReadOnly());
     QCOMPARE(log->windowTitle(), QStringLiteral("Network Log - show.tlog (read-only)"));

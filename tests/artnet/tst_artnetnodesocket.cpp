@@ -29,6 +29,13 @@ QByteArray readOne(QUdpSocket &socket, quint16 *fromPort = nullptr)
 
 using Factory = ArtNetNode::SocketFactory;
 
+} // namespace
+
+// Before its first use in QFETCH_GLOBAL (a Release build instantiates the type id there).
+Q_DECLARE_METATYPE(Factory)
+
+namespace {
+
 // Every test runs once per socket implementation the platform has.
 std::unique_ptr<ArtNetNode> makeNode()
 {
@@ -37,8 +44,6 @@ std::unique_ptr<ArtNetNode> makeNode()
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Factory)
 
 class TestArtNetNodeSocket : public QObject
 {

@@ -6,6 +6,9 @@
 
 using namespace TPatch;
 
+// Declared before the data tables use it (a Release build instantiates the type id there).
+Q_DECLARE_METATYPE(TPatch::KineticChannel)
+
 class TestPatchKeys : public QObject
 {
     Q_OBJECT
@@ -134,7 +137,6 @@ void TestPatchKeys::messageSubstitution()
     QCOMPARE(two.untranslatedText(), QStringLiteral("-7 then a"));
 }
 
-Q_DECLARE_METATYPE(KineticChannel)
 
 QTEST_GUILESS_MAIN(TestPatchKeys)
 #include "tst_patchkeys.moc"
