@@ -42,7 +42,10 @@
 #include <QStandardPaths>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -599,6 +602,26 @@ void MainWindow::showUserManual()
     text->setAccessibleName(tr("User Manual"));
     text->setOpenExternalLinks(true);
     text->setSource(QUrl(QStringLiteral("qrc:/manual/manual.md")), QTextDocument::MarkdownResource);
+    // Screenshots wider than the page are shown scaled to its width.
+    constexpr int kPictureWidth = 740;
+    QTextDocument *document = text->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            QTextImageFormat format = fragment.charFormat().toImageFormat();
+            const QImage picture = format.isValid()
+                                       ? document->resource(QTextDocument::ImageResource, format.name()).value<QImage>()
+                                       : QImage();
+            if (picture.width() <= kPictureWidth)
+                continue;
+            format.setWidth(kPictureWidth);
+            format.setHeight(double(picture.height()) * kPictureWidth / picture.width());
+            QTextCursor cursor(document);
+            cursor.setPosition(fragment.position());
+            cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+            cursor.setCharFormat(format);
+        }
+    }
     openPlainDialog(this, QStringLiteral("userManualDialog"), tr("User Manual"), text, QSize(820, 700));
 }
 
