@@ -7,7 +7,9 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QJsonArray>
+#include <QSaveFile>
 
 using namespace PacketLog;
 
@@ -43,7 +45,9 @@ int runCaptureCommand(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "Captures the UDP packets to or from the Art-Net port on a network adapter, as a packet analyser does,\n"
-        "and writes them to a file: .tlog (our own log), .pcapng (Wireshark), .csv or .txt, by the name's suffix.\n"
+        "and writes them to a file, by the name's suffix: .pcap keeps every packet whole, as captured (for\n"
+        "talu-cli convert and Wireshark); .tlog (our own log), .pcapng, .csv and .txt hold the log's records,\n"
+        "the first 256 bytes of each packet.\n"
         "Capturing runs in the capture helper (talu-capture), the only part of the program that holds the right\n"
         "to capture; without it the system refuses and the message says how to grant it.\n"
         "Says \"Capturing on NAME (UDP port N)...\" on standard error once the capture runs; runs for --seconds,\n"
@@ -87,10 +91,14 @@ int runCaptureCommand(const QStringList &arguments)
     };
     if (!parser.isSet(interface) || !parser.isSet(output))
         return usageError(QStringLiteral("give --interface and -o (or --list)."));
-    LogFormat format;
+    LogFormat format = LogFormat::Tlog;
     const QString out = parser.value(output);
-    if (!logFormatFromSuffix(out, &format))
-        return usageError(QStringLiteral("the output must end in .tlog, .pcapng, .csv or .txt."));
+    // .pcap is the helper's own stream, whole packets as captured; the other formats hold the records.
+    const bool raw = QFileInfo(out).suffix().compare(QLatin1String("pcap"), Qt::CaseInsensitive) == 0;
+    if (!raw && !logFormatFromSuffix(out, &format))
+        return usageError(QStringLiteral("the output must end in .pcap, .tlog, .pcapng, .csv or .txt."));
+    if (raw && parser.isSet(filter))
+        return usageError(QStringLiteral("--filter does not apply to .pcap, which keeps every packet whole."));
     bool ok = true;
     double runSeconds = -1;
     if (parser.isSet(seconds))
@@ -141,6 +149,13 @@ int runCaptureCommand(const QStringList &arguments)
     }
 
     CaptureSession session;
+    QSaveFile rawFile(out);
+    if (raw) {
+        if (!rawFile.open(QIODevice::WriteOnly))
+            return finish(LogMessage(QT_TRANSLATE_NOOP("PacketLog", "Cannot write %1: %2"),
+                                     {out, rawFile.errorString()}));
+        session.setRawCopy(&rawFile);
+    }
     std::vector<PacketRecord> kept;
     LogMessage failure;
     const auto take = [&] {
@@ -169,7 +184,16 @@ int runCaptureCommand(const QStringList &arguments)
     report[QStringLiteral("dropped")] = session.dropped();
     // What was captured is written even when the capture ended in a failure.
     LogMessage writeError;
-    if (session.recordCount() > 0 || failure.isEmpty()) {
+    if (raw) {
+        if (session.recordCount() > 0 || failure.isEmpty()) {
+            if (!rawFile.commit())
+                return finish(LogMessage(QT_TRANSLATE_NOOP("PacketLog", "Cannot write %1: %2"),
+                                         {out, rawFile.errorString()}));
+            report[QStringLiteral("saved")] = session.recordCount();
+        } else {
+            rawFile.cancelWriting();
+        }
+    } else if (session.recordCount() > 0 || failure.isEmpty()) {
         if (!savePacketLog(out, format, kept, &writeError))
             return finish(writeError);
         report[QStringLiteral("saved")] = qint64(kept.size());

@@ -2,6 +2,7 @@
 #include "talu_version.h"
 #include "cli/capturecommand.h"
 #include "cli/colourcommand.h"
+#include "cli/convertcommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
 #include "cli/gpsverifycommand.h"
@@ -32,6 +33,9 @@ const Command kCommands[] = {
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
     {"capture", "capture Art-Net from a network adapter into a packet log or pcapng file", runCaptureCommand},
+    {"convert", "make a capture (pcapng, pcap) into a .tpx recording, framed as the live recorder frames",
+     runConvertCommand},
+    {"diff", "compare two recordings or captures frame by frame", runDiffCommand},
     {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
     {"gps-verify", "verify a GPS-Sync set (one .tpx per group) against a patch, check by check",
      runGpsVerifyCommand},

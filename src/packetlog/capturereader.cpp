@@ -83,7 +83,7 @@ const unsigned char *ipv4Start(quint32 linkType, const Frame &f, quint32 *remain
 }
 
 // Fills a record from the frame's IPv4/UDP headers; false when it is not UDP over IPv4.
-bool decodeFrame(quint32 linkType, const Frame &f, PacketRecord *r)
+bool decodeFrame(quint32 linkType, const Frame &f, PacketRecord *r, QByteArrayView *payloadOut = nullptr)
 {
     quint32 size = 0;
     const unsigned char *ip = ipv4Start(linkType, f, &size);
@@ -102,6 +102,8 @@ bool decodeFrame(quint32 linkType, const Frame &f, PacketRecord *r)
     r->srcPort = be16(udp);
     r->dstPort = be16(udp + 2);
     r->setDatagram(QByteArrayView(udp + 8, payload));
+    if (payloadOut)
+        *payloadOut = QByteArrayView(udp + 8, payload);
     if (udpLength >= 8)
         r->length = udpLength - 8u; // the full datagram, even when the capture kept less
     r->source = RecordSource::Capture;
@@ -220,9 +222,13 @@ qint64 PcapStreamReader::consume(QByteArrayView bytes, std::vector<PacketRecord>
             break;
         ++m_packets;
         PacketRecord record;
-        if (decodeFrame(m_linkType, Frame{h + 16, captured, original}, &record)) {
+        QByteArrayView payload;
+        if (decodeFrame(m_linkType, Frame{h + 16, captured, original}, &record, &payload)) {
             record.timeNs = qint64(seconds) * 1000000000LL + qint64(fraction) * (m_nanoseconds ? 1 : 1000);
-            out->push_back(record);
+            if (m_visit)
+                m_visit(record, payload);
+            else
+                out->push_back(record);
         } else {
             ++m_skipped;
         }
@@ -239,7 +245,7 @@ void PcapStreamReader::finish()
     m_pending.clear();
 }
 
-LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress)
+LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress, const DatagramVisitor &visit)
 {
     LogLoadResult result;
     result.format = QStringLiteral("pcap");
@@ -249,6 +255,7 @@ LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress)
     }
     result.ok = true;
     PcapStreamReader reader;
+    reader.setVisitor(visit);
     // In slices, so that a watcher sees the records come and can stop the read.
     constexpr qsizetype kSlice = 4 * 1024 * 1024;
     bool stopped = false;
@@ -334,7 +341,7 @@ void readPacketOptions(const Reader &rd, const unsigned char *opts, quint32 size
 
 } // namespace
 
-LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress)
+LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress, const DatagramVisitor &visit)
 {
     LogLoadResult result;
     result.format = QStringLiteral("pcapng");
@@ -419,14 +426,18 @@ LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress)
             }
             frame.data = body + headerSize;
             const Interface &iface = interfaces[ifaceId];
-            if (decodeFrame(iface.linkType, frame, &record)) {
+            QByteArrayView payload;
+            if (decodeFrame(iface.linkType, frame, &record, &payload)) {
                 record.timeNs = toNs(ticks, iface.unitsPerSecond, iface.offsetSeconds);
                 if (iface.ours)
                     record.source = RecordSource::Mox;
                 const quint32 dataEnd = headerSize + ((frame.captured + 3u) & ~3u);
                 if (type != 0x00000003 && dataEnd < bodySize)
                     readPacketOptions(rd, body + dataEnd, bodySize - dataEnd, &record);
-                result.records.push_back(record);
+                if (visit)
+                    visit(record, payload);
+                else
+                    result.records.push_back(record);
             } else {
                 ++result.skipped;
             }
@@ -439,6 +450,21 @@ LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress)
     if (!sawSection)
         result.error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "This is not a pcapng capture file."));
     noteSkipped(result);
+    return result;
+}
+
+} // namespace PacketLog
+
+namespace PacketLog {
+
+LogLoadResult visitCapture(QByteArrayView bytes, const DatagramVisitor &visit)
+{
+    if (isPcapng(bytes))
+        return readPcapng(bytes, {}, visit);
+    if (isPcap(bytes))
+        return readPcap(bytes, {}, visit);
+    LogLoadResult result;
+    result.error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "This is neither a pcapng nor a pcap capture."));
     return result;
 }
 

@@ -14,8 +14,17 @@ namespace PacketLog {
 // Link types: Ethernet (with VLAN tags), raw IPv4, BSD loopback, Linux cooked
 // v1 and v2. Never throws; a damaged or cut file yields what was whole with a
 // warning naming the packet and byte where reading stopped. Any thread.
-LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress = {});
-LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress = {});
+// A whole UDP datagram of a capture, with its record (addresses, time, Art-Net
+// fields); the record's head holds only the first bytes, the payload all of them.
+using DatagramVisitor = std::function<void(const PacketRecord &record, QByteArrayView payload)>;
+
+// With a visitor, every datagram goes to it instead of into the result's records.
+LogLoadResult readPcap(QByteArrayView bytes, const LogReadProgress &progress = {},
+                       const DatagramVisitor &visit = {});
+LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress = {},
+                         const DatagramVisitor &visit = {});
+// A pcap or pcapng capture (by its first bytes), datagram by datagram.
+LogLoadResult visitCapture(QByteArrayView bytes, const DatagramVisitor &visit);
 
 bool isPcap(QByteArrayView bytes);
 bool isPcapng(QByteArrayView bytes);
@@ -28,6 +37,8 @@ class PcapStreamReader
 public:
     PcapStreamReader();
 
+    // Datagrams go to the visitor instead of into feed's vector.
+    void setVisitor(const DatagramVisitor &visit) { m_visit = visit; }
     // False once the stream is not pcap or is damaged; nothing after that is read.
     bool feed(QByteArrayView bytes, std::vector<PacketRecord> *out);
     // The stream ended: a packet left half-written becomes a "cut short" warning.
@@ -43,6 +54,7 @@ private:
     qint64 consume(QByteArrayView bytes, std::vector<PacketRecord> *out);
 
     QByteArray m_pending;
+    DatagramVisitor m_visit;
     ByteIo::Reader m_reader;
     bool m_started = false;
     bool m_failed = false;

@@ -166,6 +166,11 @@ std::vector<PacketRecord> CaptureSession::takeRecords()
 void CaptureSession::readOutput()
 {
     const QByteArray bytes = m_process.readAllStandardOutput();
+    if (m_rawCopy && !bytes.isEmpty() && m_rawCopy->write(bytes) != bytes.size() && m_failure.isEmpty()) {
+        m_failure = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "The capture could not be written: %1"),
+                               {m_rawCopy->errorString()});
+        m_process.kill();
+    }
     const size_t before = m_pending.size();
     const bool wasStarted = m_stream.started();
     if (!m_stream.feed(bytes, &m_pending)) {

@@ -42,6 +42,10 @@ public:
 
     // count > 0: the helper stops after that many packets.
     void start(const CaptureAdapter &adapter, quint16 port = 6454, qint64 count = 0);
+    // Every byte of the helper's pcap stream is also written here (not owned;
+    // null: none): the capture as the adapter saw it, whole packets, which
+    // the records (their first 256 bytes) are not.
+    void setRawCopy(QIODevice *device) { m_rawCopy = device; }
     // Asks the helper to stop; stopped() follows once it has.
     void stop();
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
@@ -77,6 +81,7 @@ private:
     QByteArray m_errorText; // the helper's last complaint
     LogMessage m_failure;   // our own reason, when we stopped it for one
     bool m_stopAsked = false;
+    QIODevice *m_rawCopy = nullptr;
 };
 
 } // namespace PacketLog

@@ -66,6 +66,7 @@ bool RecordingWriter::open(const QString &path, int frameRate, int recordsPerFra
     m_universesInFrame.reset();
     m_frameClock = 0;
     m_recordTimer.invalidate();
+    m_lastRecordNs = kNoTime;
     m_existenceCheck.start();
     return true;
 }
@@ -128,7 +129,8 @@ void RecordingWriter::beginFrame()
     }
 }
 
-bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
+template <typename Paused>
+bool RecordingWriter::append(quint16 portAddress, QByteArrayView data, Paused paused)
 {
     if (!isOpen() || data.isEmpty())
         return !failed();
@@ -138,9 +140,7 @@ bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
 
     if (m_recordsInFrame > 0) {
         const bool boundary = m_recordsPerFrame >= 1 ? m_recordsInFrame >= m_recordsPerFrame
-                                                     : m_universesInFrame.test(portAddress) ||
-                                                           (m_recordTimer.isValid() &&
-                                                            m_recordTimer.nsecsElapsed() > kFrameGapNs);
+                                                     : m_universesInFrame.test(portAddress) || paused();
         if (boundary) {
             beginFrame();
             if (failed())
@@ -166,9 +166,30 @@ bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
     m_universesInFrame.set(portAddress);
     m_bytesWritten += total;
     m_fileSize = m_sizeAtOpen + m_bytesWritten;
-    m_recordTimer.start();
     return true;
 }
+
+bool RecordingWriter::write(quint16 portAddress, QByteArrayView data)
+{
+    const qint64 before = m_recordsWritten;
+    const bool ok = append(portAddress, data, [this] {
+        return m_recordTimer.isValid() && m_recordTimer.nsecsElapsed() > kFrameGapNs;
+    });
+    if (m_recordsWritten != before)
+        m_recordTimer.start();
+    return ok;
+}
+
+bool RecordingWriter::writeAt(quint16 portAddress, QByteArrayView data, qint64 timeNs)
+{
+    const qint64 before = m_recordsWritten;
+    const bool ok = append(portAddress, data,
+                           [this, timeNs] { return m_lastRecordNs != kNoTime && timeNs - m_lastRecordNs > kFrameGapNs; });
+    if (m_recordsWritten != before)
+        m_lastRecordNs = timeNs;
+    return ok;
+}
+
 
 void RecordingWriter::close()
 {

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <bitset>
+#include <limits>
 
 // Appends the live ArtDmx stream to a .tpx recording, one record per
 // received packet, grouping the records into frames as they arrive so that
@@ -43,6 +44,10 @@ public:
     // Appends one record (at most 512 data bytes). Nothing happens when the
     // file is not open or data is empty. Returns false once writing failed.
     bool write(quint16 portAddress, QByteArrayView data);
+    // The same with the packet's own arrival time (nanoseconds, any epoch) in
+    // place of the clock: a capture converted afterwards is framed as the live
+    // stream was.
+    bool writeAt(quint16 portAddress, QByteArrayView data, qint64 timeNs);
     // Counts the last, possibly partial frame, flushes and closes.
     void close() override;
 
@@ -75,6 +80,9 @@ private:
     static void fillHeader(char *out, RecordFlavour flavour, const QByteArray &kelName, quint16 portAddress,
                            quint16 length);
     void beginFrame();
+    // paused(): more than the frame gap since the previous record (asked only when it decides).
+    template <typename Paused>
+    bool append(quint16 portAddress, QByteArrayView data, Paused paused);
     void setFailure(const QString &reason);
 
     QString m_path;
@@ -90,6 +98,8 @@ private:
     qint32 m_recordsInFrame = 0;
     std::bitset<65536> m_universesInFrame;
     QElapsedTimer m_recordTimer;
+    static constexpr qint64 kNoTime = std::numeric_limits<qint64>::min();
+    qint64 m_lastRecordNs = kNoTime; // writeAt's previous record
     qint64 m_frameClock = 0;
     RecordFlavour m_flavour = RecordFlavour::ArtNet;
     QString m_kelDeviceName;

@@ -99,6 +99,74 @@ private slots:
         }
     }
 
+    // The live recorder and a capture of the same stream, converted, give the same recording; diff says so,
+    // and finds a one-byte change where it is.
+    void captureConvertsToWhatTheLiveRecorderWrote()
+    {
+        QTemporaryDir dir;
+        const QString live = dir.filePath(QStringLiteral("live.tpx"));
+        const QString captured = dir.filePath(QStringLiteral("site.pcap")); // whole packets
+        const QString converted = dir.filePath(QStringLiteral("converted.tpx"));
+        QProcess listen, capture;
+        listen.start(QStringLiteral(TALU_CLI_PATH),
+                     {QStringLiteral("listen"), QStringLiteral("--address"), QStringLiteral("192.0.2.2"),
+                      QStringLiteral("--record"), live, QStringLiteral("--seconds"), QStringLiteral("4")});
+        capture.start(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("capture"), QStringLiteral("-i"),
+                                                      QStringLiteral("talu1"), QStringLiteral("-o"), captured,
+                                                      QStringLiteral("--seconds"), QStringLiteral("4")});
+        QByteArray listenSaid, captureSaid;
+        QVERIFY2(waitForText(listen, "Listening on", &listenSaid), listenSaid.constData());
+        QVERIFY2(waitForText(capture, "Capturing on talu1", &captureSaid), captureSaid.constData());
+
+        // 30 frames of four universes at 40 fps from a controller on talu0, broadcast to the segment.
+        QUdpSocket controller;
+        QVERIFY(controller.bind(QHostAddress(QStringLiteral("192.0.2.1")), 0));
+        for (int frame = 0; frame < 30; ++frame) {
+            for (quint16 universe = 0; universe < 4; ++universe) {
+                QByteArray data(512, '\0');
+                for (int c = 0; c < data.size(); ++c)
+                    data[c] = char((frame * 7 + universe * 31 + c) & 0xFF);
+                controller.writeDatagram(ArtNet::buildDmx(universe, quint8(frame % 255 + 1), data),
+                                         QHostAddress(QStringLiteral("192.0.2.255")), 6454);
+            }
+            QTest::qWait(25);
+        }
+        QVERIFY(listen.waitForFinished(15000) && capture.waitForFinished(15000));
+        QCOMPARE(capture.exitCode(), 0);
+
+        const TestCli::Run convert = TestCli::run(
+            {QStringLiteral("convert"), captured, QStringLiteral("-o"), converted, QStringLiteral("--json")});
+        QCOMPARE(convert.exitCode, 0);
+        QCOMPARE(convert.json().value(QStringLiteral("dmxPackets")).toInteger(), 120);
+        QCOMPARE(convert.json().value(QStringLiteral("frames")).toInteger(), 30);
+        const TestCli::Run same = TestCli::run({QStringLiteral("diff"), live, converted, QStringLiteral("--json")});
+        QVERIFY2(same.exitCode == 0, same.out.constData());
+        QCOMPARE(same.json().value(QStringLiteral("framesA")).toInteger(), 30);
+        QCOMPARE(same.json().value(QStringLiteral("framesB")).toInteger(), 30);
+        // The capture itself compares too (converted on the way).
+        QCOMPARE(TestCli::run({QStringLiteral("diff"), live, captured}).exitCode, 0);
+
+        // One byte changed: frame 17, universe 2, channel 100.
+        QFile file(converted);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const qint64 recordBytes = 18 + 512 + 2;
+        const qint64 at = (17 * 4 + 2) * recordBytes + 18 + 99;
+        file.seek(at);
+        const char old = file.read(1).at(0);
+        file.seek(at);
+        file.write(QByteArray(1, char(old ^ 0x5A)));
+        file.close();
+        const TestCli::Run changed = TestCli::run({QStringLiteral("diff"), live, converted, QStringLiteral("--json")});
+        QCOMPARE(changed.exitCode, 1);
+        const QJsonObject first = changed.json().value(QStringLiteral("firstDifference")).toObject();
+        QCOMPARE(changed.json().value(QStringLiteral("differingFrames")).toInteger(), 1);
+        QCOMPARE(first.value(QStringLiteral("frame")).toInteger(), 17);
+        QCOMPARE(first.value(QStringLiteral("portAddress")).toInteger(), 2);
+        QCOMPARE(first.value(QStringLiteral("channel")).toInteger(), 100);
+        QCOMPARE(first.value(QStringLiteral("a")).toInteger(), quint8(old));
+        QCOMPARE(first.value(QStringLiteral("b")).toInteger(), quint8(old ^ 0x5A));
+    }
+
     void refusals_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -110,8 +178,8 @@ private slots:
         QTest::newRow("unknown suffix") << QStringList{QStringLiteral("-i"), QStringLiteral("talu1"),
                                                        QStringLiteral("-o"), QStringLiteral("x.bin")}
                                         << 2
-                                        << QStringLiteral("talu-cli capture: the output must end in .tlog, .pcapng, "
-                                                          ".csv or .txt.\n");
+                                        << QStringLiteral("talu-cli capture: the output must end in .pcap, .tlog, "
+                                                          ".pcapng, .csv or .txt.\n");
     }
     void refusals()
     {
