@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
@@ -27,6 +28,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+
 class QStackedWidget;
 class QTabWidget;
 class BroadcastPanel;
@@ -271,6 +273,7 @@ private:
     QString m_networkLogPath;              // where "Save Network Log" writes
     PacketLog::CaptureSession *m_capture = nullptr; // the live log window's adapter capture
     QVector<PacketLog::CaptureAdapter> m_captureAdapters;
+    std::unique_ptr<QTemporaryDir> m_convertedCapture; // a capture opened as a recording, made into a .tpx
     UpdateController *m_updates = nullptr;
 
     MoxStyle *m_style = nullptr;

@@ -407,7 +407,7 @@ void MainWindow::openRecordingDialog()
 {
     const QString path = QFileDialog::getOpenFileName(this, tr("Open Recording"),
                                                       QFileInfo(m_playbackPanel->path()).absolutePath(),
-                                                      tr("Recordings (*.tpx);;All files (*)"));
+                                                      tr("Recordings and captures (*.tpx *.pcapng *.pcap);;All files (*)"));
     if (!path.isEmpty())
         openRecording(path);
 }

@@ -2,6 +2,9 @@
 // both playback tabs share), showing a frame, and the monitor bar's options.
 #include "app/mainwindow.h"
 
+#include "live/captureconversion.h"
+#include "packetlog/capturereader.h"
+#include "patch/frameorder.h"
 #include "monitor/recordedframe.h"
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
@@ -12,6 +15,7 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QRadioButton>
 #include <QTabWidget>
 
@@ -200,7 +204,24 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
     }
     stopClock();
     m_currentFrame = 0;
-    const RecordingLoadResult result = m_recording->load(path, m_patchLoaded ? &m_patch : nullptr);
+    // A capture plays as the recording the live recorder would have made of it.
+    QString loadPath = path;
+    qint64 capturePackets = -1;
+    if (PacketLog::isCaptureFile(path)) {
+        m_convertedCapture = std::make_unique<QTemporaryDir>();
+        loadPath = m_convertedCapture->filePath(QStringLiteral("capture.tpx"));
+        const int recordsPerFrame = m_patchLoaded ? TPatch::expectedFrameOrder(m_patch).recordsPerFrame() : 0;
+        const CaptureConversion converted =
+            convertCapture(path, loadPath, m_playbackPanel->fps(), recordsPerFrame);
+        if (!converted.ok) {
+            const QString reason = converted.error;
+            m_playbackPanel->setMessage([reason] { return tr("The capture could not be read: %1").arg(reason); },
+                                        2);
+            return;
+        }
+        capturePackets = converted.dmxPackets;
+    }
+    const RecordingLoadResult result = m_recording->load(loadPath, m_patchLoaded ? &m_patch : nullptr);
     m_playbackPanel->setFrameCount(m_recording->frameCount());
     if (!result.ok) {
         // The reader keeps nothing of a file it refused: there is no recording now.
@@ -229,10 +250,12 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
     const qint64 frames = m_recording->frameCount();
     const bool patchLoaded = m_patchLoaded;
     const PlaybackPanel *panel = m_playbackPanel;
-    const auto information = [fileName, format, frames, patchLoaded, panel] {
+    const auto information = [fileName, format, frames, patchLoaded, panel, capturePackets] {
         const int fps = panel->fps();
+        const QString kind =
+            capturePackets < 0 ? format : tr("capture of %1 ArtDmx packets, as %2").arg(capturePackets).arg(format);
         QString line = tr("%1 · %2 · %3 frames · %4 s at %5 fps")
-                           .arg(fileName, format)
+                           .arg(fileName, kind)
                            .arg(frames)
                            .arg(durationText(frames, fps))
                            .arg(fps);

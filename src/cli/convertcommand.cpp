@@ -9,7 +9,6 @@
 #include "recording/recording.h"
 #include "recording/recordingdiff.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 
@@ -18,15 +17,6 @@
 namespace {
 
 constexpr int kDefaultFps = 40;
-
-bool isCapture(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray head = file.read(4);
-    return PacketLog::isPcap(head) || PacketLog::isPcapng(head);
-}
 
 // The patch of --patch, or none; false with the message printed when it is refused.
 bool loadPatchOption(const QCommandLineParser &parser, const QCommandLineOption &option, const QString &command,
@@ -175,7 +165,7 @@ int runDiffCommand(const QStringList &arguments)
     Recording recordings[2];
     for (int i = 0; i < 2; ++i) {
         QString path = parser.positionalArguments().at(i);
-        if (isCapture(path)) {
+        if (PacketLog::isCaptureFile(path)) {
             const QString converted = scratch.filePath(QStringLiteral("%1.tpx").arg(i));
             const CaptureConversion c = convertCapture(path, converted, kDefaultFps, recordsPerFrameOf(patch));
             if (!c.ok)

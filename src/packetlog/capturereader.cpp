@@ -3,6 +3,7 @@
 #include "packetlog/byteio.h"
 #include "packetlog/pcapngwriter.h"
 
+#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -156,6 +157,15 @@ bool isPcap(QByteArrayView bytes)
         return false;
     const quint32 magic = le32(reinterpret_cast<const unsigned char *>(bytes.data()));
     return magic == 0xA1B2C3D4 || magic == 0xD4C3B2A1 || magic == 0xA1B23C4D || magic == 0x4D3CB2A1;
+}
+
+bool isCaptureFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray head = file.read(4);
+    return isPcap(head) || isPcapng(head);
 }
 
 bool isPcapng(QByteArrayView bytes)

@@ -28,6 +28,8 @@ LogLoadResult visitCapture(QByteArrayView bytes, const DatagramVisitor &visit);
 
 bool isPcap(QByteArrayView bytes);
 bool isPcapng(QByteArrayView bytes);
+// A pcap or pcapng file, by its first bytes.
+bool isCaptureFile(const QString &path);
 
 // Reads a pcap stream as it arrives (the capture helper's output, or a file
 // in slices): feed it bytes in pieces of any size; the records of every

@@ -167,7 +167,7 @@ void PlaybackPanel::onBrowse()
             startFolder = info.absolutePath();
     }
     const QString picked = QFileDialog::getOpenFileName(this, tr("Select Recording"), startFolder,
-                                                        tr("Torvane Recording (*.tpx);;All Files (*)"));
+                                                        tr("Recordings and captures (*.tpx *.pcapng *.pcap);;All Files (*)"));
     if (!picked.isEmpty())
         m_pathEdit->setText(picked);
 }

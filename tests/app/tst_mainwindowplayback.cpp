@@ -1,4 +1,6 @@
 // The recorded-playback and GPS-Sync workflows, driven through the panels.
+#include "artnet/artnetpacket.h"
+#include "packetlog/logfiles.h"
 #include "panels/gpsgrouprow.h"
 #include "panels/gpsplaybackpanel.h"
 #include "panels/playbackpanel.h"
@@ -66,6 +68,7 @@ private slots:
     void failedPatchKeepsThePreviousOne();
     void gpsSetAutoFillsLoadsAndPlays();
     void whiteChannelsReport();
+    void captureLoadsAsRecording();
 };
 
 void TestMainWindowPlayback::recordingPlaysPausesRewindsAndSeeks()
@@ -291,6 +294,39 @@ void TestMainWindowPlayback::whiteChannelsReport()
     QVERIFY2(status(w).startsWith(QStringLiteral("120 px with white (W 120 · CW 0 · WW 0) · ")), qPrintable(status(w)));
     white->click();
     QCOMPARE(status(w), QStringLiteral("White channel contribution off."));
+}
+
+// A capture given where a recording goes plays as the recording the live
+// recorder would have made of it: 4 frames of 3 universes, 25 ms apart.
+void TestMainWindowPlayback::captureLoadsAsRecording()
+{
+    std::vector<PacketLog::PacketRecord> packets;
+    for (int frame = 0; frame < 4; ++frame) {
+        for (quint16 universe = 0; universe < 3; ++universe) {
+            PacketLog::PacketRecord r;
+            r.timeNs = 1767225600LL * 1000000000LL + frame * 25000000LL + universe * 100000LL;
+            r.srcIp = 0xC0000201;
+            r.dstIp = 0xC00002FF;
+            r.srcPort = r.dstPort = 6454;
+            r.setDatagram(ArtNet::buildDmx(universe, quint8(frame + 1), QByteArray(64, char(frame * 16 + universe))));
+            packets.push_back(r);
+        }
+    }
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("site.pcapng"));
+    PacketLog::LogMessage error;
+    QVERIFY(PacketLog::savePacketLog(path, PacketLog::LogFormat::Pcapng, packets, &error));
+    MainWindow w;
+    auto *panel = w.findChild<PlaybackPanel *>();
+    panel->setPath(path);
+    click(panel, QStringLiteral("Load"));
+    QCOMPARE(panel->findChild<QLabel *>(QStringLiteral("recordingInformation"))->text(),
+             QStringLiteral("site.pcapng · capture of 12 ArtDmx packets, as Art-Net · 4 frames · 0.1 s at 40 fps  |  "
+                            "No patch loaded - the monitor stays dark; the DMX tab shows every recorded universe."));
+    QCOMPARE(w.recording().recordsPerFrame(), 3);
+    const RecordRef last = w.recording().recordAt(3, 2);
+    QCOMPARE(last.universe, quint16(2));
+    QCOMPARE(w.recording().dataOf(last), QByteArray(64, char(3 * 16 + 2)));
 }
 
 QTEST_MAIN(TestMainWindowPlayback)
