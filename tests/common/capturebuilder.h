@@ -22,13 +22,14 @@ inline QByteArray le32(quint32 v)
 inline QByteArray be32(quint32 v) { return be16(quint16(v >> 16)) + be16(quint16(v)); }
 
 // IPv4 (no options, checksum left zero: readers do not check it) + UDP + payload.
-inline QByteArray ipUdp(const QByteArray &payload, quint8 protocol = 17, quint16 fragment = 0)
+inline QByteArray ipUdp(const QByteArray &payload, quint8 protocol = 17, quint16 fragment = 0,
+                        quint16 destinationPort = 6455)
 {
     return QByteArray("\x45\x00", 2) + be16(quint16(28 + payload.size())) // version/IHL, TOS, total length
          + QByteArray("\x00\x01", 2) + be16(fragment)                     // id, flags/fragment offset
          + QByteArray("\x40", 1) + QByteArray(1, char(protocol)) + QByteArray(2, '\0') // TTL, protocol, checksum
          + be32(0xC0000202) + be32(0xC0000201)                           // 192.0.2.2 -> 192.0.2.1
-         + be16(6454) + be16(6455) + be16(quint16(8 + payload.size())) + QByteArray(2, '\0') // UDP
+         + be16(6454) + be16(destinationPort) + be16(quint16(8 + payload.size())) + QByteArray(2, '\0') // UDP
          + payload;
 }
 

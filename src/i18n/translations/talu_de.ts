@@ -1008,10 +1008,6 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <translation>Aufnahme öffnen</translation>
     </message>
     <message>
-        <source>Recordings (*.tpx);;All files (*)</source>
-        <translation>Aufnahmen (*.tpx);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Playback paused.</source>
         <translation>Wiedergabe pausiert.</translation>
     </message>
@@ -1317,6 +1313,26 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
         <translation>Mitschnitt auf %1 gestoppt: %2 Pakete, %3 vom System verworfen.</translation>
     </message>
+    <message>
+        <source>How to load a patch, play, go live, record, log and capture.</source>
+        <translation>Wie Sie einen Patch laden, abspielen, live gehen, aufnehmen, protokollieren und mitschneiden.</translation>
+    </message>
+    <message>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All files (*)</source>
+        <translation>Aufnahmen und Mitschnitte (*.tpx *.pcapng *.pcap);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>libpcap (The Tcpdump Group), in the capture helper, under the BSD licence.</source>
+        <translation>libpcap (The Tcpdump Group), im Mitschnitt-Hilfsprogramm, unter der BSD-Lizenz.</translation>
+    </message>
+    <message>
+        <source>The capture could not be read: %1</source>
+        <translation>Der Mitschnitt konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>capture of %1 ArtDmx packets, as %2</source>
+        <translation>Mitschnitt von %1 ArtDmx-Paketen, als %2</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1577,6 +1593,14 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>Capture on %1 failed: %2</source>
         <translation>Mitschnitt auf %1 fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>This is neither a pcapng nor a pcap capture.</source>
+        <translation>Dies ist weder ein pcapng- noch ein pcap-Mitschnitt.</translation>
+    </message>
+    <message>
+        <source>The capture could not be written: %1</source>
+        <translation>Der Mitschnitt konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -1886,8 +1910,8 @@ So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</t
         <translation>Aufnahme wählen</translation>
     </message>
     <message>
-        <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation>Torvane-Aufnahme (*.tpx);;Alle Dateien (*)</translation>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All Files (*)</source>
+        <translation>Aufnahmen und Mitschnitte (*.tpx *.pcapng *.pcap);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>

@@ -1008,10 +1008,6 @@ Tocar la vista con el ratón lo detiene.</translation>
         <translation>Abrir grabación</translation>
     </message>
     <message>
-        <source>Recordings (*.tpx);;All files (*)</source>
-        <translation>Grabaciones (*.tpx);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>Playback paused.</source>
         <translation>Reproducción en pausa.</translation>
     </message>
@@ -1317,6 +1313,26 @@ Tocar la vista con el ratón lo detiene.</translation>
         <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
         <translation>Captura en %1 detenida: %2 paquetes, %3 descartados por el sistema.</translation>
     </message>
+    <message>
+        <source>How to load a patch, play, go live, record, log and capture.</source>
+        <translation>Cómo cargar un patch, reproducir, pasar a directo, grabar, registrar y capturar.</translation>
+    </message>
+    <message>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All files (*)</source>
+        <translation>Grabaciones y capturas (*.tpx *.pcapng *.pcap);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>libpcap (The Tcpdump Group), in the capture helper, under the BSD licence.</source>
+        <translation>libpcap (The Tcpdump Group), en el programa auxiliar de captura, bajo la licencia BSD.</translation>
+    </message>
+    <message>
+        <source>The capture could not be read: %1</source>
+        <translation>No se pudo leer la captura: %1</translation>
+    </message>
+    <message>
+        <source>capture of %1 ArtDmx packets, as %2</source>
+        <translation>captura de %1 paquetes ArtDmx, en formato %2</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1577,6 +1593,14 @@ Tocar la vista con el ratón lo detiene.</translation>
     <message>
         <source>Capture on %1 failed: %2</source>
         <translation>La captura en %1 falló: %2</translation>
+    </message>
+    <message>
+        <source>This is neither a pcapng nor a pcap capture.</source>
+        <translation>Esto no es ni una captura pcapng ni una captura pcap.</translation>
+    </message>
+    <message>
+        <source>The capture could not be written: %1</source>
+        <translation>No se pudo escribir la captura: %1</translation>
     </message>
 </context>
 <context>
@@ -1886,8 +1910,8 @@ Así se comprueba si una grabación basada en periodos enlaza sin cortes.</trans
         <translation>Seleccionar grabación</translation>
     </message>
     <message>
-        <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation>Grabación Torvane (*.tpx);;Todos los archivos (*)</translation>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All Files (*)</source>
+        <translation>Grabaciones y capturas (*.tpx *.pcapng *.pcap);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>

@@ -1008,10 +1008,6 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <translation>Ouvrir un enregistrement</translation>
     </message>
     <message>
-        <source>Recordings (*.tpx);;All files (*)</source>
-        <translation>Enregistrements (*.tpx);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>Playback paused.</source>
         <translation>Lecture en pause.</translation>
     </message>
@@ -1317,6 +1313,26 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>Capture on %1 stopped: %2 packets, %3 dropped by the system.</source>
         <translation>Capture sur %1 arrêtée : %2 paquets, %3 perdus par le système.</translation>
     </message>
+    <message>
+        <source>How to load a patch, play, go live, record, log and capture.</source>
+        <translation>Comment charger un patch, lire, passer en direct, enregistrer, journaliser et capturer.</translation>
+    </message>
+    <message>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All files (*)</source>
+        <translation>Enregistrements et captures (*.tpx *.pcapng *.pcap);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>libpcap (The Tcpdump Group), in the capture helper, under the BSD licence.</source>
+        <translation>libpcap (The Tcpdump Group), dans l&apos;utilitaire de capture, sous licence BSD.</translation>
+    </message>
+    <message>
+        <source>The capture could not be read: %1</source>
+        <translation>Impossible de lire la capture : %1</translation>
+    </message>
+    <message>
+        <source>capture of %1 ArtDmx packets, as %2</source>
+        <translation>capture de %1 paquets ArtDmx, au format %2</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1577,6 +1593,14 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <message>
         <source>Capture on %1 failed: %2</source>
         <translation>Échec de la capture sur %1 : %2</translation>
+    </message>
+    <message>
+        <source>This is neither a pcapng nor a pcap capture.</source>
+        <translation>Ce n&apos;est ni une capture pcapng ni une capture pcap.</translation>
+    </message>
+    <message>
+        <source>The capture could not be written: %1</source>
+        <translation>Impossible d&apos;écrire la capture : %1</translation>
     </message>
 </context>
 <context>
@@ -1886,8 +1910,8 @@ C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique bo
         <translation>Choisir un enregistrement</translation>
     </message>
     <message>
-        <source>Torvane Recording (*.tpx);;All Files (*)</source>
-        <translation>Enregistrement Torvane (*.tpx);;Tous les fichiers (*)</translation>
+        <source>Recordings and captures (*.tpx *.pcapng *.pcap);;All Files (*)</source>
+        <translation>Enregistrements et captures (*.tpx *.pcapng *.pcap);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
