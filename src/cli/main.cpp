@@ -3,6 +3,7 @@
 #include "cli/capturecommand.h"
 #include "cli/colourcommand.h"
 #include "cli/convertcommand.h"
+#include "cli/discovercommand.h"
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
 #include "cli/gpsverifycommand.h"
@@ -32,6 +33,7 @@ const Command kCommands[] = {
     {"log", "read a packet log or capture, filter it, print or export the records", runLogCommand},
     {"filter", "compile a packet log display filter and print its tree or its error", runFilterCommand},
     {"listen", "run the Art-Net node headless and report what arrives", runListenCommand},
+    {"discover", "find the Art-Net nodes on the network (ArtPoll) and judge their replies", runDiscoverCommand},
     {"capture", "capture Art-Net from a network adapter into a packet log or pcapng file", runCaptureCommand},
     {"convert", "make a capture (pcapng, pcap) into a .tpx recording, framed as the live recorder frames",
      runConvertCommand},
