@@ -41,6 +41,10 @@ class LivePipeline;
 class MoxStyle;
 class PatchBar;
 class PacketLogWindow;
+class NodeDiscoveryWindow;
+namespace ArtNet {
+class NodeDiscovery;
+}
 class PatchSummaryPanel;
 class PlaybackClock;
 class PlaybackPanel;
@@ -217,6 +221,11 @@ private:
     bool saveLog(PacketLogWindow *window, const QString &path, const QString &format);
     // Shared recent filters, the save shortcuts and "the window saves apply to".
     void adoptLogWindow(PacketLogWindow *window);
+    // Node discovery (mainwindowdiscovery.cpp)
+    void showNodeDiscovery();
+    void startDiscovery(const QString &target);
+    void refreshDiscovery();
+    void exportDiscovery();
     // Adapter capture from the live log window's capture bar.
     void startCapture(const QString &adapterName);
     void onCaptureStopped(const PacketLog::LogMessage &error);
@@ -272,6 +281,8 @@ private:
     QPointer<PacketLogWindow> m_lastLogWindow; // the log window last active
     QString m_networkLogPath;              // where "Save Network Log" writes
     PacketLog::CaptureSession *m_capture = nullptr; // the live log window's adapter capture
+    QPointer<NodeDiscoveryWindow> m_discoveryWindow;
+    ArtNet::NodeDiscovery *m_discovery = nullptr;
     QVector<PacketLog::CaptureAdapter> m_captureAdapters;
     std::unique_ptr<QTemporaryDir> m_convertedCapture; // a capture opened as a recording, made into a .tpx
     UpdateController *m_updates = nullptr;

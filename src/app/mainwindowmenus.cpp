@@ -262,7 +262,9 @@ void MainWindow::buildMenus()
     connect(refresh, &QAction::triggered, this, &MainWindow::refreshInterfaces);
     m_broadcastActions << listen << record << announce << refresh;
     broadcast->addSeparator();
-    m_menus.addPlanned(broadcast, QT_TR_NOOP("Node Discovery (ArtPoll Scan)..."));
+    connect(m_menus.addEntry(broadcast, QT_TR_NOOP("Node Discovery (ArtPoll Scan)..."), QKeySequence(),
+                             QT_TR_NOOP("List the Art-Net nodes on the network and what is wrong with their replies.")),
+            &QAction::triggered, this, &MainWindow::showNodeDiscovery);
     m_menus.addPlanned(broadcast, QT_TR_NOOP("Test Signal Generator..."));
     m_menus.addPlanned(broadcast, QT_TR_NOOP("sACN (E1.31) Input"));
 

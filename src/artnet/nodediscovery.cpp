@@ -78,6 +78,60 @@ bool parsePollReply(QByteArrayView d, PollReplyFields *out)
     return true;
 }
 
+QString macText(const std::array<quint8, 6> &mac)
+{
+    QStringList parts;
+    for (const quint8 b : mac)
+        parts << QStringLiteral("%1").arg(b, 2, 16, QLatin1Char('0'));
+    return parts.join(QLatin1Char(':'));
+}
+
+QString portsText(const QVector<DiscoveredPort> &ports)
+{
+    QStringList texts;
+    for (const DiscoveredPort &p : ports)
+        texts << QStringLiteral("0x%1 %2")
+                     .arg(p.portAddress, 4, 16, QLatin1Char('0'))
+                     .arg(p.output ? QStringLiteral("out") : QStringLiteral("in"));
+    return texts.join(QStringLiteral(", "));
+}
+
+QByteArray devicesCsv(const QVector<DiscoveredDevice> &devices)
+{
+    const auto field = [](QString text) {
+        if (text.contains(QLatin1Char(',')) || text.contains(QLatin1Char('"')) || text.contains(QLatin1Char('\n')))
+            text = QLatin1Char('"') + text.replace(QLatin1Char('"'), QStringLiteral("\"\"")) + QLatin1Char('"');
+        return text;
+    };
+    QString csv = QStringLiteral("address,short name,long name,oem,esta,firmware,status,mac,bind indexes,ports,"
+                                 "reply ms,online,this program,report,findings\n");
+    for (const DiscoveredDevice &d : devices) {
+        QStringList bind;
+        for (const quint8 b : d.bindIndexes)
+            bind << QString::number(b);
+        const QStringList row{ipText(d.address),
+                              d.first.shortName,
+                              d.first.longName,
+                              QStringLiteral("0x%1").arg(d.first.oem, 4, 16, QLatin1Char('0')),
+                              QStringLiteral("0x%1").arg(d.first.esta, 4, 16, QLatin1Char('0')),
+                              QString::number(d.first.firmware),
+                              QStringLiteral("0x%1").arg(d.first.status1, 2, 16, QLatin1Char('0')),
+                              macText(d.first.mac),
+                              bind.join(QLatin1Char(' ')),
+                              portsText(d.ports),
+                              QString::number(d.replyMs),
+                              d.online ? QStringLiteral("yes") : QStringLiteral("no"),
+                              d.self ? QStringLiteral("yes") : QStringLiteral("no"),
+                              d.first.report,
+                              d.findings.join(QStringLiteral(" | "))};
+        QStringList fields;
+        for (const QString &f : row)
+            fields << field(f);
+        csv += fields.join(QLatin1Char(',')) + QLatin1Char('\n');
+    }
+    return csv.toUtf8();
+}
+
 void DiscoveryTable::pollSent(qint64 nowMs)
 {
     m_polls.append(nowMs);

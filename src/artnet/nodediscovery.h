@@ -59,6 +59,12 @@ struct DiscoveredDevice
     QStringList findings; // English; empty when nothing is wrong
 };
 
+// "ab:cd:..." and "0x0001 out, 0x0002 in": the texts the table, the export and talu-cli show.
+QString macText(const std::array<quint8, 6> &mac);
+QString portsText(const QVector<DiscoveredPort> &ports);
+// The devices as CSV (a header line, then one line per device; findings joined by " | ").
+QByteArray devicesCsv(const QVector<DiscoveredDevice> &devices);
+
 // The table itself: pure logic over times in milliseconds (any epoch), so
 // every finding can be tested without a network.
 class DiscoveryTable

@@ -18,14 +18,6 @@ QString hex4(quint16 v)
     return QStringLiteral("0x%1").arg(v, 4, 16, QLatin1Char('0'));
 }
 
-QString macText(const std::array<quint8, 6> &mac)
-{
-    QStringList parts;
-    for (const quint8 b : mac)
-        parts << QStringLiteral("%1").arg(b, 2, 16, QLatin1Char('0'));
-    return parts.join(QLatin1Char(':'));
-}
-
 // The subnet broadcast of the interface that holds address; the limited broadcast when none does.
 QHostAddress broadcastOf(const QHostAddress &address)
 {
@@ -145,13 +137,10 @@ int runDiscoverCommand(const QStringList &arguments)
         return ExitOk;
     }
     for (const DiscoveredDevice &d : devices) {
-        QStringList ports;
-        for (const DiscoveredPort &p : d.ports)
-            ports << (p.output ? QStringLiteral("out ") : QStringLiteral("in ")) + hex4(p.portAddress);
         printOut(QStringLiteral("%1  %2%3  \"%4\"  %5")
                      .arg(QHostAddress(d.address).toString(), d.first.shortName,
                           d.self ? QStringLiteral(" (this program)") : QString(), d.first.longName,
-                          ports.join(QStringLiteral(", "))));
+                          portsText(d.ports)));
         for (const QString &f : d.findings)
             printOut(QStringLiteral("    ! ") + f);
     }

@@ -18,8 +18,12 @@
 #include <QTemporaryDir>
 #include <QUdpSocket>
 
+#include "artnet/widgets/nodediscoverywindow.h"
 #include "packetlog/widgets/packetlistmodel.h"
 #include "packetlog/widgets/packetlogwindow.h"
+
+#include <QComboBox>
+#include <QTreeWidget>
 
 using namespace WindowDriver;
 
@@ -54,6 +58,7 @@ private slots:
     void liveDmxLightsTheMonitorAndIsRecorded();
     void portInUseIsReported();
     void recordingRefusals();
+    void nodeDiscoveryFindsTheWindowsOwnNode();
 };
 
 void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
@@ -174,6 +179,42 @@ void TestMainWindowLive::recordingRefusals()
         QCOMPARE(panel->recordMessageLabel()->text(), QString::fromLatin1(message).arg(path));
         click(panel, QStringLiteral("Stop recording"));
     }
+}
+
+// Node discovery from the Broadcast menu: a scan of talu0's subnet finds the
+// window's own node (listening on the Art-Net port, as polls expect) and marks it.
+void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
+{
+    MainWindow w;
+    click(&w, QStringLiteral("Live broadcast"));
+    auto *panel = w.findChild<BroadcastPanel *>();
+    panel->setAddress(kNodeAddress.toString());
+    panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(6454);
+    click(panel, QStringLiteral("Start listening"));
+    QVERIFY(button(panel, QStringLiteral("Stop listening")));
+
+    w.menuAction("Node Discovery (ArtPoll Scan)...")->trigger();
+    auto *discovery = w.findChild<NodeDiscoveryWindow *>();
+    QVERIFY(discovery && discovery->isVisible());
+    auto *target = discovery->findChild<QComboBox *>(QStringLiteral("discoveryTarget"));
+    QCOMPARE(target->itemText(target->count() - 1), QStringLiteral("255.255.255.255 (limited broadcast)"));
+    target->setCurrentIndex(target->findData(QStringLiteral("192.0.2.255")));
+    auto *scan = discovery->findChild<QPushButton *>(QStringLiteral("scanButton"));
+    QTest::mouseClick(scan, Qt::LeftButton);
+    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(),
+             QStringLiteral("Polling 192.0.2.255 every 2.5 s..."));
+    QCOMPARE(scan->text(), QStringLiteral("Stop"));
+    QTreeWidget *table = discovery->table();
+    QTRY_COMPARE(table->topLevelItemCount(), 1);
+    const QTreeWidgetItem *ours = table->topLevelItem(0);
+    QCOMPARE(ours->text(NodeDiscoveryWindow::AddressColumn), QStringLiteral("192.0.2.1"));
+    QCOMPARE(ours->text(NodeDiscoveryWindow::ShortNameColumn), QStringLiteral("TorvaneTester"));
+    QCOMPARE(ours->text(NodeDiscoveryWindow::StateColumn), QStringLiteral("this program"));
+    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("universesWithoutNode"))->text(),
+             QStringLiteral("Load a patch to see which of its universes no device outputs."));
+    QTest::mouseClick(scan, Qt::LeftButton);
+    QCOMPARE(scan->text(), QStringLiteral("Scan"));
+    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(), QStringLiteral("Stopped."));
 }
 
 QTEST_MAIN(TestMainWindowLive)

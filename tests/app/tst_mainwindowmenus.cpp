@@ -78,7 +78,7 @@ const Entry kEntries[] = {
     {"&Broadcast", "Record Incoming Stream", "Ctrl+Shift+R", 'l', false},
     {"&Broadcast", "Announce Node Now", "", 'l', false},
     {"&Broadcast", "Refresh Network Interfaces", "", 'l', false},
-    {"&Broadcast", "Node Discovery (ArtPoll Scan)...", "", 'p', false},
+    {"&Broadcast", "Node Discovery (ArtPoll Scan)...", "", 'a', false},
     {"&Broadcast", "Test Signal Generator...", "", 'p', false},
     {"&Broadcast", "sACN (E1.31) Input", "", 'p', false},
     {"&Help", "Language...", "", 'a', false},

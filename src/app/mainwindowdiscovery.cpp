@@ -1,0 +1,89 @@
+// MainWindow: node discovery. The window shows the devices that answer
+// ArtPoll; the scan (NodeDiscovery, core) polls every 2.5 s while it is open,
+// and the window's own node, when listening, answers like any other.
+#include "app/mainwindow.h"
+
+#include "artnet/nodediscovery.h"
+#include "artnet/widgets/nodediscoverywindow.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QNetworkInterface>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+void MainWindow::showNodeDiscovery()
+{
+    if (!m_discoveryWindow) {
+        m_discoveryWindow = new NodeDiscoveryWindow(this);
+        m_discovery = new ArtNet::NodeDiscovery(this);
+        connect(m_discoveryWindow, &NodeDiscoveryWindow::scanRequested, this, &MainWindow::startDiscovery);
+        connect(m_discoveryWindow, &NodeDiscoveryWindow::stopRequested, this, [this] {
+            m_discovery->stop();
+            m_discoveryWindow->setScanning(false, tr("Stopped."));
+        });
+        connect(m_discoveryWindow, &NodeDiscoveryWindow::exportRequested, this, &MainWindow::exportDiscovery);
+        connect(m_discovery, &ArtNet::NodeDiscovery::updated, this, &MainWindow::refreshDiscovery);
+    }
+    // Each interface's subnet broadcast, then the limited broadcast (asked again at every opening).
+    QVector<QPair<QString, QString>> targets;
+    for (const QNetworkInterface &i : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &e : i.addressEntries()) {
+            if (e.ip().protocol() == QAbstractSocket::IPv4Protocol && !e.broadcast().isNull())
+                targets.append({tr("%1 (subnet of %2, %3)").arg(e.broadcast().toString(), e.ip().toString(),
+                                                                i.humanReadableName()),
+                                e.broadcast().toString()});
+        }
+    }
+    targets.append({tr("255.255.255.255 (limited broadcast)"), QStringLiteral("255.255.255.255")});
+    if (!m_discovery->isRunning())
+        m_discoveryWindow->setTargets(targets);
+    m_discoveryWindow->show();
+    m_discoveryWindow->raise();
+    m_discoveryWindow->activateWindow();
+}
+
+void MainWindow::startDiscovery(const QString &target)
+{
+    QHostAddress address;
+    if (!address.setAddress(target) || address.protocol() != QAbstractSocket::IPv4Protocol) {
+        m_discoveryWindow->setScanning(false, tr("\"%1\" is not an IPv4 address.").arg(target));
+        return;
+    }
+    QString error;
+    if (!m_discovery->start(QHostAddress::AnyIPv4, address, &error)) {
+        m_discoveryWindow->setScanning(false, tr("Cannot scan: %1").arg(error));
+        return;
+    }
+    m_discoveryWindow->setScanning(true, tr("Polling %1 every 2.5 s...").arg(target));
+    refreshDiscovery();
+}
+
+void MainWindow::refreshDiscovery()
+{
+    if (!m_discoveryWindow)
+        return;
+    const QVector<ArtNet::DiscoveredDevice> devices = m_discovery->table().devices(m_discovery->nowMs());
+    const QVector<quint16> missing =
+        m_patchLoaded ? m_discovery->table().universesWithoutNode(advertisedUniverses()) : QVector<quint16>();
+    m_discoveryWindow->showDevices(devices, missing, m_patchLoaded);
+}
+
+void MainWindow::exportDiscovery()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        m_discoveryWindow, tr("Export Devices"),
+        QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(QStringLiteral("nodes.csv")),
+        tr("CSV table (*.csv)"));
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const QByteArray csv = ArtNet::devicesCsv(m_discovery->table().devices(m_discovery->nowMs()));
+    if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
+        QMessageBox::warning(m_discoveryWindow, tr("Export Devices"),
+                             tr("Could not write %1: %2").arg(path, file.errorString()));
+        return;
+    }
+    showStatus([path] { return tr("Devices exported to %1.").arg(path); }, 5000);
+}
