@@ -29,6 +29,8 @@ void MainWindow::showNodeDiscovery()
     // Each interface's subnet broadcast, then the limited broadcast (asked again at every opening).
     QVector<QPair<QString, QString>> targets;
     for (const QNetworkInterface &i : QNetworkInterface::allInterfaces()) {
+        if (i.flags().testFlag(QNetworkInterface::IsLoopBack) || !i.flags().testFlag(QNetworkInterface::IsUp))
+            continue;
         for (const QNetworkAddressEntry &e : i.addressEntries()) {
             if (e.ip().protocol() == QAbstractSocket::IPv4Protocol && !e.broadcast().isNull())
                 targets.append({tr("%1 (subnet of %2, %3)").arg(e.broadcast().toString(), e.ip().toString(),
@@ -37,8 +39,10 @@ void MainWindow::showNodeDiscovery()
         }
     }
     targets.append({tr("255.255.255.255 (limited broadcast)"), QStringLiteral("255.255.255.255")});
-    if (!m_discovery->isRunning())
+    if (!m_discovery->isRunning()) {
         m_discoveryWindow->setTargets(targets);
+        refreshDiscovery();
+    }
     m_discoveryWindow->show();
     m_discoveryWindow->raise();
     m_discoveryWindow->activateWindow();

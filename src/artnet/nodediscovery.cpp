@@ -149,10 +149,13 @@ bool DiscoveryTable::replyReceived(quint32 sender, QByteArrayView datagram, qint
     device.lastSeenMs = nowMs;
     if (!device.lengths.contains(fields.length))
         device.lengths.append(fields.length);
-    // The answer belongs to the latest poll before it.
+    // The first reply after a poll answers it; later ones (the node's own
+    // announcements) do not make it slower.
     const auto poll = std::upper_bound(m_polls.cbegin(), m_polls.cend(), nowMs);
-    if (poll != m_polls.cbegin())
-        device.slowestMs = std::max(device.slowestMs, nowMs - *std::prev(poll));
+    if (poll != m_polls.cbegin() && *std::prev(poll) != device.answeredPollMs) {
+        device.answeredPollMs = *std::prev(poll);
+        device.slowestMs = std::max(device.slowestMs, nowMs - device.answeredPollMs);
+    }
     return true;
 }
 
@@ -222,11 +225,14 @@ QVector<DiscoveredDevice> DiscoveryTable::devices(qint64 nowMs) const
         list.append(out);
     }
     // Two devices outputting one Port-Address: a controller cannot tell which shows what.
+    // A node of this program only watches its universes, so it claims none.
     for (DiscoveredDevice &device : list) {
         for (const DiscoveredPort &port : std::as_const(device.ports)) {
-            if (!port.output)
+            if (!port.output || device.self)
                 continue;
             for (const DiscoveredDevice &other : std::as_const(list)) {
+                if (other.self)
+                    continue;
                 const bool claims = std::any_of(other.ports.cbegin(), other.ports.cend(), [&](const DiscoveredPort &p) {
                     return p.output && p.portAddress == port.portAddress;
                 });

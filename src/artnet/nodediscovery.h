@@ -52,7 +52,7 @@ struct DiscoveredDevice
     PollReplyFields first; // the lowest BindIndex page (names, codes, status, MAC)
     QVector<quint8> bindIndexes;
     QVector<DiscoveredPort> ports;
-    qint64 replyMs = -1;  // after the poll it answered, the slowest page
+    qint64 replyMs = -1;  // its slowest answer to a poll (the first page after it)
     qint64 lastSeenMs = 0;
     bool online = true;   // answered within 3 s of the last poll it should have answered
     bool self = false;    // a node of this program on this machine
@@ -86,8 +86,8 @@ private:
     struct Device
     {
         QMap<quint8, PollReplyFields> pages; // by BindIndex
-        qint64 firstPollMs = -1;              // the poll its latest answer belongs to
-        qint64 slowestMs = -1;
+        qint64 answeredPollMs = -1; // the latest poll it answered
+        qint64 slowestMs = -1;      // its slowest answer to a poll
         qint64 lastSeenMs = 0;
         QVector<int> lengths;
     };

@@ -1,4 +1,5 @@
 #include "artnet/artnetpacket.h"
+#include "artnet/nodediscovery.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -48,6 +49,8 @@ private slots:
     void sequence_data();
     void sequence();
     void anyLengthAnyBytesStaysInside();
+    void discoveryJudgesTimeAndPages_data();
+    void discoveryJudgesTimeAndPages();
 };
 
 void TestArtNetPacket::pollReplyNoUniverses()
@@ -298,6 +301,60 @@ void TestArtNetPacket::anyLengthAnyBytesStaysInside()
         }
     }
     QVERIFY2(dmx > 100000, qPrintable(QString::number(dmx))); // the planted headers reached the DMX path
+}
+
+// The discovery table reads our own replies back and judges what only time
+// and several pages show (the network test covers lengths, IP fields and ports).
+void TestArtNetPacket::discoveryJudgesTimeAndPages_data()
+{
+    QTest::addColumn<qint64>("replyAt");      // the first page, after the poll at 0
+    QTest::addColumn<quint32>("secondBindIp"); // the second page's BindIp and IP field, and the sender
+    QTest::addColumn<qint64>("lookAt");
+    QTest::addColumn<bool>("online");
+    QTest::addColumn<QStringList>("findings");
+    QTest::newRow("prompt") << qint64(20) << 0xC0000201u << qint64(100) << true << QStringList();
+    QTest::newRow("slow") << qint64(3500) << 0xC0000201u << qint64(3600) << true
+                          << QStringList{"It answered 3500 ms after the poll; controllers wait 3 s."};
+    QTest::newRow("silent since the second poll") << qint64(20) << 0xC0000201u << qint64(5600) << false
+                                                  << QStringList();
+    QTest::newRow("pages disagree") << qint64(20) << 0xC0000209u << qint64(100) << true
+                                    << QStringList{"Its IP field says 192.0.2.1, but the replies come from 192.0.2.9.",
+                                                   "Its pages name different BindIp addresses (192.0.2.1, 192.0.2.9)."};
+}
+
+void TestArtNetPacket::discoveryJudgesTimeAndPages()
+{
+    QFETCH(qint64, replyAt);
+    QFETCH(quint32, secondBindIp);
+    QFETCH(qint64, lookAt);
+    QFETCH(bool, online);
+    QFETCH(QStringList, findings);
+    PollReplyInput in;
+    in.bindIPv4 = 0xC0000201;
+    in.universes = {0x0012, 0x0013};
+    const QByteArray first = buildPollReply(in, 0);
+    in.bindIPv4 = secondBindIp;
+    const QByteArray second = buildPollReply(in, 1);
+    PollReplyFields fields;
+    QVERIFY(parsePollReply(first, &fields));
+    QCOMPARE(fields.shortName, in.identity.shortName);
+    QCOMPARE(fields.bindIndex, pollReplyBindIndex(in.universes, 0));
+
+    // Pages sent from the second page's address: the first page's IP field then disagrees with it.
+    const quint32 sender = secondBindIp;
+    DiscoveryTable judged;
+    judged.pollSent(0);
+    QVERIFY(judged.replyReceived(sender, first, replyAt));
+    QVERIFY(judged.replyReceived(sender, second, replyAt + 1));
+    if (replyAt < 2500)
+        judged.pollSent(2500); // polled again; answered by nobody
+    QVERIFY(!judged.replyReceived(sender, buildPoll(), replyAt)); // not a reply
+    const QVector<DiscoveredDevice> devices = judged.devices(lookAt);
+    QCOMPARE(devices.size(), 1);
+    QCOMPARE(devices[0].online, online);
+    QCOMPARE(devices[0].findings, findings);
+    QCOMPARE(devices[0].ports.size(), 2);
+    QCOMPARE(devices[0].ports[1].portAddress, quint16(0x0013));
 }
 
 QTEST_GUILESS_MAIN(TestArtNetPacket)

@@ -90,10 +90,10 @@ void NodeDiscoveryWindow::showDevices(const QVector<ArtNet::DiscoveredDevice> &d
             expanded.insert(m_table->topLevelItem(i)->text(AddressColumn));
     m_table->clear();
     const auto hex = [](int value, int digits) { return QStringLiteral("0x%1").arg(value, digits, 16, QLatin1Char('0')); };
+    QVector<QTreeWidgetItem *> items;
     for (const ArtNet::DiscoveredDevice &d : devices) {
         auto *item = new QTreeWidgetItem(m_table);
-        const QString address = QHostAddress(d.address).toString();
-        item->setText(AddressColumn, address);
+        item->setText(AddressColumn, QHostAddress(d.address).toString());
         item->setText(ShortNameColumn, d.first.shortName);
         item->setText(LongNameColumn, d.first.longName);
         item->setText(PortsColumn, ArtNet::portsText(d.ports));
@@ -108,14 +108,24 @@ void NodeDiscoveryWindow::showDevices(const QVector<ArtNet::DiscoveredDevice> &d
         item->setText(MacColumn, ArtNet::macText(d.first.mac));
         if (!d.online)
             item->setForeground(StateColumn, palette().color(QPalette::Disabled, QPalette::Text));
-        if (!d.first.report.isEmpty())
-            new QTreeWidgetItem(item, {tr("Report"), d.first.report});
-        for (const QString &finding : d.findings)
-            new QTreeWidgetItem(item, {tr("Finding"), finding});
-        item->setExpanded(expanded.contains(address) || !d.findings.isEmpty());
+        items.append(item);
     }
+    // The columns fit the device rows; the report and findings below each span the row.
     for (int c = 0; c < ColumnCount; ++c)
         m_table->resizeColumnToContents(c);
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        const ArtNet::DiscoveredDevice &d = devices[i];
+        QStringList lines;
+        if (!d.first.report.isEmpty())
+            lines << tr("Report: %1").arg(d.first.report);
+        for (const QString &finding : d.findings)
+            lines << tr("Finding: %1").arg(finding);
+        for (const QString &line : std::as_const(lines))
+            new QTreeWidgetItem(items[i], {line});
+        for (int c = 0; c < items[i]->childCount(); ++c)
+            items[i]->child(c)->setFirstColumnSpanned(true);
+        items[i]->setExpanded(expanded.contains(items[i]->text(AddressColumn)) || !d.findings.isEmpty());
+    }
     retranslateUi();
 }
 
@@ -148,8 +158,8 @@ void NodeDiscoveryWindow::retranslateUi()
     m_exportButton->setEnabled(!m_devices.isEmpty());
     m_state->setAccessibleName(tr("Scan state"));
     m_table->setAccessibleName(tr("Devices"));
-    m_table->setHeaderLabels({tr("Address"), tr("Short name"), tr("Long name"), tr("Ports"), tr("Reply"),
-                              tr("State"), tr("OEM"), tr("ESTA"), tr("Firmware"), tr("MAC")});
+    m_table->setHeaderLabels({tr("Address"), tr("Short name"), tr("Long name"), tr("State"), tr("Reply"),
+                              tr("OEM"), tr("ESTA"), tr("Firmware"), tr("MAC"), tr("Ports")});
     m_missing->setAccessibleName(tr("Patched universes without a device"));
     if (!m_patchLoaded) {
         m_missing->setText(tr("Load a patch to see which of its universes no device outputs."));

@@ -23,13 +23,13 @@ public:
         AddressColumn,
         ShortNameColumn,
         LongNameColumn,
-        PortsColumn,
-        ReplyColumn,
         StateColumn,
+        ReplyColumn,
         OemColumn,
         EstaColumn,
         FirmwareColumn,
         MacColumn,
+        PortsColumn, // last: a node of many universes lists them all
         ColumnCount
     };
 
