@@ -2,6 +2,7 @@
 
 #include "artnet/artnetnode.h"
 #include "cli/clicommon.h"
+#include "cli/healthcommand.h"
 #include "live/livepipeline.h"
 #include "patch/frameorder.h"
 #include "patch/patchloader.h"
@@ -129,6 +130,9 @@ int runListenCommand(const QStringList &arguments)
         "truncated; an unchanged ArtDmx repeated within 250 ms is left out, as in the window's Network Log). The\n"
         "JSON then adds logRecords (written), logCollapsed (repeats left out), logDropped (records the disk could\n"
         "not take in time), logPath and logError (why logging stopped, or null).\n"
+        "The JSON also carries universeHealth and artSync, as talu-cli health --help describes them (fps over\n"
+        "the last second, lastSeenMs before the end of the run; with --patch the patched universes that never\n"
+        "came are listed as \"never\"); --no-health leaves the analysis out.\n"
         "Exit codes: 0 ran and stopped, 1 the socket could not be bound, the patch was refused or the recording\n"
         "or packet log could not be opened, 2 usage error."));
     const QCommandLineOption address(QStringLiteral("address"),
@@ -161,8 +165,10 @@ int runListenCommand(const QStringList &arguments)
                                  QStringLiteral("Write the packet log of every datagram sent and received to this .tlog file."),
                                  QStringLiteral("file"));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
+    const QCommandLineOption noHealth(QStringLiteral("no-health"),
+                                      QStringLiteral("Do not analyse the network health of the stream."));
     for (const QCommandLineOption &o :
-         {address, port, universes, patch, shortName, longName, seconds, record, fps, log, json})
+         {address, port, universes, patch, shortName, longName, seconds, record, fps, log, json, noHealth})
         parser.addOption(o);
     if (const std::optional<CliExit> done = parseCommandLine(parser, QStringLiteral("listen"), arguments))
         return *done;
@@ -222,6 +228,7 @@ int runListenCommand(const QStringList &arguments)
 
     // The window's own live path; without a colour target it only records.
     LivePipeline pipeline;
+    pipeline.setHealthEnabled(!parser.isSet(noHealth));
     // Without --log nothing would read the packet log: it is not kept.
     PacketLog::PacketJournal &journal = pipeline.journal();
     journal.setEnabled(parser.isSet(log));
@@ -284,7 +291,18 @@ int runListenCommand(const QStringList &arguments)
     const RecordingWriter *writer = pipeline.writer();
 
     if (parser.isSet(json)) {
-        printJson(reportJson(node, double(ran.elapsed()) / 1000.0, writer, logReport, parser.value(log)));
+        QJsonObject report = reportJson(node, double(ran.elapsed()) / 1000.0, writer, logReport, parser.value(log));
+        if (!parser.isSet(noHealth)) {
+            const Health::Analyser &health = pipeline.health();
+            const QVector<quint16> patched = parser.isSet(patch) ? advertised : QVector<quint16>();
+            report.insert(QStringLiteral("universeHealth"),
+                          universeHealthJson(health.universes(LivePipeline::healthNowNs(), patched)));
+            const Health::SyncHealth sync = health.sync();
+            report.insert(QStringLiteral("artSync"), QJsonObject{{QStringLiteral("seen"), sync.seen},
+                                                                 {QStringLiteral("packets"), sync.packets},
+                                                                 {QStringLiteral("fps"), sync.fps}});
+        }
+        printJson(report);
     } else {
         if (live)
             std::fputs("\n", stdout);

@@ -7,6 +7,7 @@
 #include "cli/filtercommand.h"
 #include "cli/generatecommand.h"
 #include "cli/gpsverifycommand.h"
+#include "cli/healthcommand.h"
 #include "cli/logcommand.h"
 #include "cli/listencommand.h"
 #include "cli/patchcommand.h"
@@ -37,6 +38,7 @@ const Command kCommands[] = {
     {"capture", "capture Art-Net from a network adapter into a packet log or pcapng file", runCaptureCommand},
     {"convert", "make a capture (pcapng, pcap) into a .tpx recording, framed as the live recorder frames",
      runConvertCommand},
+    {"health", "network health per universe and sender from a capture or recording", runHealthCommand},
     {"diff", "compare two recordings or captures frame by frame", runDiffCommand},
     {"recording", "load a .tpx recording (optionally against a patch) and print its layout", runRecordingCommand},
     {"gps-verify", "verify a GPS-Sync set (one .tpx per group) against a patch, check by check",

@@ -5,6 +5,7 @@
 #include "patch/pixellayout.h"
 
 #include <algorithm>
+#include <chrono>
 
 QVector<quint16> LivePipeline::advertisedUniverses(const TPatch::PatchData &patch)
 {
@@ -21,9 +22,25 @@ LivePipeline::LivePipeline(std::unique_ptr<ArtNetNode> node, QObject *parent)
     m_node->setPacketJournal(&m_journalFeed);
 }
 
+qint64 LivePipeline::healthNowNs()
+{
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
 void LivePipeline::JournalFeed::journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort,
                                                 QByteArrayView bytes, qint64 writeResult)
 {
+    if (direction == Direction::Received && m_pipeline.m_healthEnabled) {
+        const ArtNet::ClassifiedDatagram c = ArtNet::classifyDatagram(bytes);
+        if (c.kind == ArtNet::DatagramKind::Dmx)
+            m_pipeline.m_health.addDmx(healthNowNs(), peer.toIPv4Address(), peerPort, c.portAddress, c.sequence,
+                                       c.dataLength);
+        else if (bytes.size() >= 10 && ArtNet::hasIdAt(bytes, 0) && quint8(bytes[8]) == 0x00 && quint8(bytes[9]) == 0x52)
+            m_pipeline.m_health.addSync(healthNowNs(), peer.toIPv4Address(), peerPort); // ArtSync, OpCode 0x5200
+    }
+    if (!m_pipeline.m_journal.isEnabled())
+        return;
     const ArtNetNode &node = *m_pipeline.m_node;
     PacketLog::PacketEvent event;
     event.direction = direction == Direction::Sent ? PacketLog::Direction::Out : PacketLog::Direction::In;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "artnet/artnetnode.h"
+#include "live/healthanalyser.h"
 #include "packetlog/packetjournal.h"
 #include "recording/recordingwriter.h"
 
@@ -41,6 +42,11 @@ public:
     // The packet log of this node: enabled from the start, so the window's log
     // has the history; an owner without a log (talu-cli listen) disables it.
     PacketLog::PacketJournal &journal() { return m_journal; }
+    // Network health of every datagram the node receives (ArtDmx and ArtSync),
+    // live: on unless switched off.
+    const Health::Analyser &health() const { return m_health; }
+    void setHealthEnabled(bool on) { m_healthEnabled = on; }
+    static qint64 healthNowNs();
 
     // Where received universes are evaluated (neither owned; both must stay
     // alive until replaced). Null for either: nothing is evaluated.
@@ -68,7 +74,7 @@ private:
     {
     public:
         explicit JournalFeed(LivePipeline &pipeline) : m_pipeline(pipeline) {}
-        bool isEnabled() const override { return m_pipeline.m_journal.isEnabled(); }
+        bool isEnabled() const override { return m_pipeline.m_journal.isEnabled() || m_pipeline.m_healthEnabled; }
         void journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort, QByteArrayView bytes,
                              qint64 writeResult) override;
 
@@ -79,6 +85,8 @@ private:
     void onDmxReceived(quint16 portAddress, const QByteArray &data, const QHostAddress &sender);
 
     PacketLog::PacketJournal m_journal;
+    Health::Analyser m_health{true};
+    bool m_healthEnabled = true;
     JournalFeed m_journalFeed{*this};
     // Declared after the journal so it goes first: the node holds the feed.
     std::unique_ptr<ArtNetNode> m_node;

@@ -65,6 +65,17 @@ void TestListenCommand::answersPollAndReportsJson()
     QByteArray err;
     QVERIFY2(waitForListening(listen, &err), err.constData());
     QVERIFY(err.contains("Listening on 0.0.0.0:6454, advertising 2 universe(s)."));
+    // The same stream captured beside the node, for the health figures from a file.
+    QTemporaryDir dir;
+    const QString captured = dir.filePath(QStringLiteral("stream.pcap"));
+    QProcess capture;
+    capture.start(QStringLiteral(TALU_CLI_PATH), {QStringLiteral("capture"), QStringLiteral("-i"), QStringLiteral("lo"),
+                                                  QStringLiteral("-o"), captured, QStringLiteral("--seconds"),
+                                                  QStringLiteral("2.5")});
+    capture.setReadChannel(QProcess::StandardError);
+    QByteArray captureSaid;
+    while (!captureSaid.contains("Capturing on lo") && capture.waitForReadyRead(5000))
+        captureSaid += capture.readAllStandardError();
 
     QUdpSocket controller;
     QVERIFY(controller.bind(kLoopback, 0));
@@ -99,6 +110,27 @@ void TestListenCommand::answersPollAndReportsJson()
     QCOMPARE(report.value(QStringLiteral("source")).toString(), QStringLiteral("Art-Net"));
     QVERIFY(report.contains(QStringLiteral("packetsPerSecond")));
     QVERIFY(report.value(QStringLiteral("seconds")).toDouble() >= 2.9);
+
+    // Health: universe 3 got 2, 4, ... 10 (four numbers lost); 0x12 got 1, 3, ... 9 and then 1 again (late).
+    const QJsonArray health = report.value(QStringLiteral("universeHealth")).toArray();
+    QCOMPARE(health.size(), 2);
+    const auto figures = [](const QJsonValue &u) {
+        return QList<qint64>{u[QStringLiteral("portAddress")].toInteger(), u[QStringLiteral("packets")].toInteger(),
+                             u[QStringLiteral("lost")].toInteger(), u[QStringLiteral("outOfOrder")].toInteger(),
+                             u[QStringLiteral("duplicates")].toInteger()};
+    };
+    QCOMPARE(figures(health[0]), (QList<qint64>{3, 5, 4, 0, 0}));
+    QCOMPARE(figures(health[1]), (QList<qint64>{0x12, 6, 4, 1, 0}));
+    QCOMPARE(health[1][QStringLiteral("sources")][0][QStringLiteral("address")].toString(), QStringLiteral("127.0.0.1"));
+    QCOMPARE(report.value(QStringLiteral("artSync"))[QStringLiteral("seen")].toBool(), false);
+    // The capture of the same stream gives the same figures.
+    QVERIFY(capture.waitForFinished(10000));
+    const TestCli::Run fromFile = TestCli::run({QStringLiteral("health"), captured, QStringLiteral("--json")});
+    QCOMPARE(fromFile.exitCode, 0);
+    const QJsonArray fileHealth = fromFile.json().value(QStringLiteral("universeHealth")).toArray();
+    QCOMPARE(fileHealth.size(), 2);
+    QCOMPARE(figures(fileHealth[0]), figures(health[0]));
+    QCOMPARE(figures(fileHealth[1]), figures(health[1]));
 }
 
 void TestListenCommand::advertisesThePatchUniverses()

@@ -105,6 +105,7 @@ void NodeDiscoveryWindow::showDevices(const QVector<ArtNet::DiscoveredDevice> &d
         item->setText(OemColumn, hex(d.first.oem, 4));
         item->setText(EstaColumn, hex(d.first.esta, 4));
         item->setText(FirmwareColumn, QString::number(d.first.firmware));
+        item->setText(StatusColumn, hex(d.first.status1, 2));
         item->setText(MacColumn, ArtNet::macText(d.first.mac));
         if (!d.online)
             item->setForeground(StateColumn, palette().color(QPalette::Disabled, QPalette::Text));
@@ -159,7 +160,7 @@ void NodeDiscoveryWindow::retranslateUi()
     m_state->setAccessibleName(tr("Scan state"));
     m_table->setAccessibleName(tr("Devices"));
     m_table->setHeaderLabels({tr("Address"), tr("Short name"), tr("Long name"), tr("State"), tr("Reply"),
-                              tr("OEM"), tr("ESTA"), tr("Firmware"), tr("MAC"), tr("Ports")});
+                              tr("OEM"), tr("ESTA"), tr("Firmware"), tr("Status"), tr("MAC"), tr("Ports")});
     m_missing->setAccessibleName(tr("Patched universes without a device"));
     if (!m_patchLoaded) {
         m_missing->setText(tr("Load a patch to see which of its universes no device outputs."));

@@ -28,6 +28,7 @@ public:
         OemColumn,
         EstaColumn,
         FirmwareColumn,
+        StatusColumn,
         MacColumn,
         PortsColumn, // last: a node of many universes lists them all
         ColumnCount

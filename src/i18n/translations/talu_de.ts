@@ -1333,6 +1333,42 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>capture of %1 ArtDmx packets, as %2</source>
         <translation>Mitschnitt von %1 ArtDmx-Paketen, als %2</translation>
     </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Gestoppt.</translation>
+    </message>
+    <message>
+        <source>%1 (subnet of %2, %3)</source>
+        <translation>%1 (Subnetz von %2, %3)</translation>
+    </message>
+    <message>
+        <source>255.255.255.255 (limited broadcast)</source>
+        <translation>255.255.255.255 (Limited Broadcast)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv4 address.</source>
+        <translation>&quot;%1&quot; ist keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <source>Cannot scan: %1</source>
+        <translation>Scan nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>Polling %1 every 2.5 s...</source>
+        <translation>Poll an %1 alle 2,5 s...</translation>
+    </message>
+    <message>
+        <source>Export Devices</source>
+        <translation>Geräte exportieren</translation>
+    </message>
+    <message>
+        <source>Devices exported to %1.</source>
+        <translation>Geräte nach %1 exportiert.</translation>
+    </message>
+    <message>
+        <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
+        <translation>Die Art-Net-Nodes im Netzwerk auflisten und zeigen, was an ihren Antworten nicht stimmt.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1351,6 +1387,136 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>Dim red</source>
         <translation>Gedämpftes Rot</translation>
+    </message>
+</context>
+<context>
+    <name>NodeDiscoveryWindow</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>this program</source>
+        <translation>dieses Programm</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>online</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n Befund</numerusform>
+            <numerusform>%n Befunde</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Bericht: %1</translation>
+    </message>
+    <message>
+        <source>Finding: %1</source>
+        <translation>Befund: %1</translation>
+    </message>
+    <message>
+        <source>Node Discovery</source>
+        <translation>Node-Suche</translation>
+    </message>
+    <message>
+        <source>Poll:</source>
+        <translation>Poll:</translation>
+    </message>
+    <message>
+        <source>Poll target</source>
+        <translation>Poll-Ziel</translation>
+    </message>
+    <message>
+        <source>Where ArtPoll goes: an interface&apos;s subnet broadcast, the limited broadcast, or one address typed in.</source>
+        <translation>Wohin ArtPoll gesendet wird: der Subnetz-Broadcast einer Schnittstelle, der Limited Broadcast oder eine eingegebene Adresse.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Scannen</translation>
+    </message>
+    <message>
+        <source>Send ArtPoll now and every 2.5 s while this window is open.</source>
+        <translation>ArtPoll jetzt und dann alle 2,5 s senden, solange dieses Fenster geöffnet ist.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>CSV exportieren...</translation>
+    </message>
+    <message>
+        <source>Scan state</source>
+        <translation>Scanstatus</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Short name</source>
+        <translation>Kurzname</translation>
+    </message>
+    <message>
+        <source>Long name</source>
+        <translation>Langname</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Antwort</translation>
+    </message>
+    <message>
+        <source>OEM</source>
+        <translation>OEM</translation>
+    </message>
+    <message>
+        <source>ESTA</source>
+        <translation>ESTA</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Ports</translation>
+    </message>
+    <message>
+        <source>Patched universes without a device</source>
+        <translation>Gepatchte Universen ohne Gerät</translation>
+    </message>
+    <message>
+        <source>Load a patch to see which of its universes no device outputs.</source>
+        <translation>Einen Patch laden, um zu sehen, welche seiner Universen kein Gerät ausgibt.</translation>
+    </message>
+    <message>
+        <source>Every patched universe has a device that outputs it.</source>
+        <translation>Jedes gepatchte Universum hat ein Gerät, das es ausgibt.</translation>
+    </message>
+    <message>
+        <source>Patched universes no device outputs: %1</source>
+        <translation>Gepatchte Universen, die kein Gerät ausgibt: %1</translation>
     </message>
 </context>
 <context>

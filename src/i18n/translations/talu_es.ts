@@ -1333,6 +1333,42 @@ Tocar la vista con el ratón lo detiene.</translation>
         <source>capture of %1 ArtDmx packets, as %2</source>
         <translation>captura de %1 paquetes ArtDmx, en formato %2</translation>
     </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
+        <source>%1 (subnet of %2, %3)</source>
+        <translation>%1 (subred de %2, %3)</translation>
+    </message>
+    <message>
+        <source>255.255.255.255 (limited broadcast)</source>
+        <translation>255.255.255.255 (difusión limitada)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv4 address.</source>
+        <translation>&quot;%1&quot; no es una dirección IPv4.</translation>
+    </message>
+    <message>
+        <source>Cannot scan: %1</source>
+        <translation>No se puede sondear: %1</translation>
+    </message>
+    <message>
+        <source>Polling %1 every 2.5 s...</source>
+        <translation>Sondeando %1 cada 2,5 s...</translation>
+    </message>
+    <message>
+        <source>Export Devices</source>
+        <translation>Exportar dispositivos</translation>
+    </message>
+    <message>
+        <source>Devices exported to %1.</source>
+        <translation>Dispositivos exportados a %1.</translation>
+    </message>
+    <message>
+        <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
+        <translation>Lista los nodos Art-Net de la red y lo que falla en sus respuestas.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1351,6 +1387,136 @@ Tocar la vista con el ratón lo detiene.</translation>
     <message>
         <source>Dim red</source>
         <translation>Rojo atenuado</translation>
+    </message>
+</context>
+<context>
+    <name>NodeDiscoveryWindow</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>this program</source>
+        <translation>este programa</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>conectado</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>desconectado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n problema</numerusform>
+            <numerusform>%n problemas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Informe: %1</translation>
+    </message>
+    <message>
+        <source>Finding: %1</source>
+        <translation>Problema: %1</translation>
+    </message>
+    <message>
+        <source>Node Discovery</source>
+        <translation>Descubrimiento de nodos</translation>
+    </message>
+    <message>
+        <source>Poll:</source>
+        <translation>Sondear:</translation>
+    </message>
+    <message>
+        <source>Poll target</source>
+        <translation>Destino del sondeo</translation>
+    </message>
+    <message>
+        <source>Where ArtPoll goes: an interface&apos;s subnet broadcast, the limited broadcast, or one address typed in.</source>
+        <translation>Adónde va el ArtPoll: la difusión de subred de una interfaz, la difusión limitada o una dirección introducida.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Sondear</translation>
+    </message>
+    <message>
+        <source>Send ArtPoll now and every 2.5 s while this window is open.</source>
+        <translation>Envía un ArtPoll ahora y cada 2,5 s mientras esta ventana esté abierta.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>Exportar CSV...</translation>
+    </message>
+    <message>
+        <source>Scan state</source>
+        <translation>Estado del sondeo</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Short name</source>
+        <translation>Nombre corto</translation>
+    </message>
+    <message>
+        <source>Long name</source>
+        <translation>Nombre largo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Respuesta</translation>
+    </message>
+    <message>
+        <source>OEM</source>
+        <translation>OEM</translation>
+    </message>
+    <message>
+        <source>ESTA</source>
+        <translation>ESTA</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Puertos</translation>
+    </message>
+    <message>
+        <source>Patched universes without a device</source>
+        <translation>Universos del patch sin dispositivo</translation>
+    </message>
+    <message>
+        <source>Load a patch to see which of its universes no device outputs.</source>
+        <translation>Cargue un patch para ver cuáles de sus universos no emite ningún dispositivo.</translation>
+    </message>
+    <message>
+        <source>Every patched universe has a device that outputs it.</source>
+        <translation>Cada universo del patch tiene un dispositivo que lo emite.</translation>
+    </message>
+    <message>
+        <source>Patched universes no device outputs: %1</source>
+        <translation>Universos del patch que ningún dispositivo emite: %1</translation>
     </message>
 </context>
 <context>

@@ -1333,6 +1333,42 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>capture of %1 ArtDmx packets, as %2</source>
         <translation>capture de %1 paquets ArtDmx, au format %2</translation>
     </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <source>%1 (subnet of %2, %3)</source>
+        <translation>%1 (sous-réseau de %2, %3)</translation>
+    </message>
+    <message>
+        <source>255.255.255.255 (limited broadcast)</source>
+        <translation>255.255.255.255 (diffusion limitée)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv4 address.</source>
+        <translation>« %1 » n&apos;est pas une adresse IPv4.</translation>
+    </message>
+    <message>
+        <source>Cannot scan: %1</source>
+        <translation>Scan impossible : %1</translation>
+    </message>
+    <message>
+        <source>Polling %1 every 2.5 s...</source>
+        <translation>Interrogation de %1 toutes les 2,5 s...</translation>
+    </message>
+    <message>
+        <source>Export Devices</source>
+        <translation>Exporter les appareils</translation>
+    </message>
+    <message>
+        <source>Devices exported to %1.</source>
+        <translation>Appareils exportés vers %1.</translation>
+    </message>
+    <message>
+        <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
+        <translation>Liste les nœuds Art-Net du réseau et ce qui ne va pas dans leurs réponses.</translation>
+    </message>
 </context>
 <context>
     <name>MoxStyle</name>
@@ -1351,6 +1387,136 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <message>
         <source>Dim red</source>
         <translation>Rouge tamisé</translation>
+    </message>
+</context>
+<context>
+    <name>NodeDiscoveryWindow</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>this program</source>
+        <translation>ce programme</translation>
+    </message>
+    <message>
+        <source>online</source>
+        <translation>en ligne</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>hors ligne</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s)</source>
+        <translation>
+            <numerusform>%n anomalie</numerusform>
+            <numerusform>%n anomalies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Report: %1</source>
+        <translation>Rapport : %1</translation>
+    </message>
+    <message>
+        <source>Finding: %1</source>
+        <translation>Anomalie : %1</translation>
+    </message>
+    <message>
+        <source>Node Discovery</source>
+        <translation>Découverte des nœuds</translation>
+    </message>
+    <message>
+        <source>Poll:</source>
+        <translation>Interroger :</translation>
+    </message>
+    <message>
+        <source>Poll target</source>
+        <translation>Cible de l&apos;interrogation</translation>
+    </message>
+    <message>
+        <source>Where ArtPoll goes: an interface&apos;s subnet broadcast, the limited broadcast, or one address typed in.</source>
+        <translation>Destination de l&apos;ArtPoll : la diffusion de sous-réseau d&apos;une interface, la diffusion limitée ou une adresse saisie.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>Scanner</translation>
+    </message>
+    <message>
+        <source>Send ArtPoll now and every 2.5 s while this window is open.</source>
+        <translation>Envoie un ArtPoll maintenant puis toutes les 2,5 s tant que cette fenêtre est ouverte.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>Exporter en CSV...</translation>
+    </message>
+    <message>
+        <source>Scan state</source>
+        <translation>État du scan</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Short name</source>
+        <translation>Nom court</translation>
+    </message>
+    <message>
+        <source>Long name</source>
+        <translation>Nom long</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>OEM</source>
+        <translation>OEM</translation>
+    </message>
+    <message>
+        <source>ESTA</source>
+        <translation>ESTA</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Ports</source>
+        <translation>Ports</translation>
+    </message>
+    <message>
+        <source>Patched universes without a device</source>
+        <translation>Univers patchés sans appareil</translation>
+    </message>
+    <message>
+        <source>Load a patch to see which of its universes no device outputs.</source>
+        <translation>Chargez un patch pour voir lesquels de ses univers ne sont émis par aucun appareil.</translation>
+    </message>
+    <message>
+        <source>Every patched universe has a device that outputs it.</source>
+        <translation>Chaque univers patché est émis par un appareil.</translation>
+    </message>
+    <message>
+        <source>Patched universes no device outputs: %1</source>
+        <translation>Univers patchés qu&apos;aucun appareil n&apos;émet : %1</translation>
     </message>
 </context>
 <context>

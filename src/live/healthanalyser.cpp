@@ -1,0 +1,234 @@
+#include "live/healthanalyser.h"
+
+#include <algorithm>
+
+namespace Health {
+
+namespace {
+
+constexpr int kCycle = 255;
+constexpr int kHalfCycle = 127;
+constexpr size_t kIntervalsKept = 1024;
+constexpr qint64 kSecondNs = 1'000'000'000LL;
+
+void keepLastSecond(std::vector<qint64> *times, qint64 nowNs)
+{
+    const auto old = std::find_if(times->begin(), times->end(), [nowNs](qint64 t) { return nowNs - t < kSecondNs; });
+    times->erase(times->begin(), old);
+}
+
+// Steps forward from a to b in the cycle 1-255 (0 when equal).
+int forward(int a, int b)
+{
+    return ((b - a) % kCycle + kCycle) % kCycle;
+}
+
+int step(int number, int by)
+{
+    return ((number - 1 + by) % kCycle + kCycle) % kCycle + 1;
+}
+
+} // namespace
+
+QString definition(const QString &counter)
+{
+    static const std::map<QString, QString> kDefinitions = {
+        {QStringLiteral("packets"), QStringLiteral("ArtDmx packets received for this universe.")},
+        {QStringLiteral("fps"), QStringLiteral("Packets per second: over the last second live, over the whole file "
+                                               "otherwise.")},
+        {QStringLiteral("lost"),
+         QStringLiteral("Sequence numbers skipped by forward jumps (shorter than half the 1-255 cycle, across the wrap "
+                        "from 255 to 1), less those that arrived late: a swapped pair loses nothing.")},
+        {QStringLiteral("outOfOrder"),
+         QStringLiteral("Packets that arrived behind the highest sequence number seen so far (a backward step "
+                        "shorter than half the cycle).")},
+        {QStringLiteral("duplicates"), QStringLiteral("Packets repeating the highest sequence number seen so far.")},
+        {QStringLiteral("lengthChanges"), QStringLiteral("Times the data length changed from one packet to the next.")},
+        {QStringLiteral("lastSeenMs"), QStringLiteral("Milliseconds since the last packet.")},
+        {QStringLiteral("syncMissed"),
+         QStringLiteral("ArtSync periods in which the universe came twice or not at all (a torn frame).")},
+        {QStringLiteral("state"),
+         QStringLiteral("never: patched, nothing received; stale: nothing for more than 4 s; conflict: two or more "
+                        "senders; unstable: over 1 % of packets lost, out of order or repeated, or a longest "
+                        "interval over 4 times the median and over 100 ms; ok: none of these.")},
+    };
+    const auto it = kDefinitions.find(counter);
+    return it == kDefinitions.end() ? QString() : it->second;
+}
+
+void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 portAddress, quint8 sequence,
+                      int length)
+{
+    m_lastNs = std::max(m_lastNs, timeNs);
+    Universe &u = m_universes[portAddress];
+    ++u.sinceSync;
+    Source &s = u.sources[(quint64(address) << 16) | port];
+    if (s.packets > 0) {
+        const qint64 interval = timeNs - s.lastNs;
+        s.minIntervalNs = s.minIntervalNs < 0 ? interval : std::min(s.minIntervalNs, interval);
+        s.maxIntervalNs = std::max(s.maxIntervalNs, interval);
+        // A ring of the latest intervals: the median is taken when asked, not per packet.
+        const auto us = qint32(std::clamp<qint64>(interval / 1000, 0, INT32_MAX));
+        if (s.intervalsUs.size() < kIntervalsKept)
+            s.intervalsUs.push_back(us);
+        else
+            s.intervalsUs[s.nextInterval] = us;
+        s.nextInterval = (s.nextInterval + 1) % kIntervalsKept;
+        if (length != s.lastLength)
+            ++s.lengthChanges;
+    } else {
+        s.firstNs = timeNs;
+    }
+    ++s.packets;
+    s.lastNs = timeNs;
+    s.lastLength = length;
+    if (m_live) {
+        s.recentNs.push_back(timeNs);
+        keepLastSecond(&s.recentNs, timeNs);
+    }
+    if (sequence == 0)
+        return; // not numbered
+    if (s.highest == 0) {
+        s.highest = sequence;
+        return;
+    }
+    const int d = forward(s.highest, sequence);
+    if (d == 0) {
+        ++s.duplicates;
+    } else if (d <= kHalfCycle) {
+        // The numbers skipped may still come; those half a cycle behind no longer can.
+        for (int k = 1; k < d; ++k)
+            s.missing[size_t(step(s.highest, k))] = true;
+        for (int k = 0; k < d; ++k)
+            s.missing[size_t(step(sequence, -kHalfCycle - 1 - k))] = false;
+        s.lost += d - 1;
+        s.highest = sequence;
+        s.missing[sequence] = false;
+    } else {
+        ++s.outOfOrder;
+        if (s.missing[sequence]) {
+            s.missing[sequence] = false;
+            --s.lost;
+        }
+    }
+}
+
+void Analyser::addSync(qint64 timeNs, quint32, quint16)
+{
+    m_lastNs = std::max(m_lastNs, timeNs);
+    // A universe sent twice, or not at all, between two ArtSync packets missed a sync.
+    if (m_syncPackets > 0) {
+        for (auto &[portAddress, u] : m_universes) {
+            if (u.sinceSync != 1)
+                ++u.syncMissed;
+        }
+    } else {
+        m_firstSyncNs = timeNs;
+    }
+    for (auto &[portAddress, u] : m_universes)
+        u.sinceSync = 0;
+    ++m_syncPackets;
+    m_lastSyncNs = timeNs;
+    if (m_live) {
+        m_recentSyncNs.push_back(timeNs);
+        keepLastSecond(&m_recentSyncNs, timeNs);
+    }
+}
+
+void Analyser::reset()
+{
+    m_universes.clear();
+    m_syncPackets = 0;
+    m_recentSyncNs.clear();
+    m_lastNs = 0;
+}
+
+double Analyser::fpsOf(const Source &s, qint64 nowNs) const
+{
+    if (m_live)
+        return double(std::count_if(s.recentNs.begin(), s.recentNs.end(),
+                                    [nowNs](qint64 t) { return nowNs - t < kSecondNs; }));
+    const qint64 span = s.lastNs - s.firstNs;
+    return span > 0 ? double(s.packets - 1) * 1e9 / double(span) : 0.0;
+}
+
+QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16> &patched) const
+{
+    QVector<UniverseHealth> out;
+    for (const auto &[portAddress, u] : m_universes) {
+        UniverseHealth h;
+        h.portAddress = portAddress;
+        h.syncMissed = u.syncMissed;
+        qint64 lastNs = 0, longest = 0;
+        double medianMs = 0;
+        int recentSenders = 0;
+        for (const auto &[key, s] : u.sources) {
+            SourceHealth sh;
+            sh.address = quint32(key >> 16);
+            sh.port = quint16(key & 0xFFFF);
+            sh.packets = s.packets;
+            sh.fps = fpsOf(s, nowNs);
+            sh.lost = s.lost;
+            sh.outOfOrder = s.outOfOrder;
+            sh.duplicates = s.duplicates;
+            sh.lengthChanges = s.lengthChanges;
+            sh.lastSeenMs = std::max<qint64>(0, (nowNs - s.lastNs) / 1'000'000);
+            std::vector<qint32> sorted = s.intervalsUs;
+            std::sort(sorted.begin(), sorted.end());
+            sh.minIntervalMs = s.minIntervalNs < 0 ? 0 : double(s.minIntervalNs) / 1e6;
+            sh.maxIntervalMs = double(s.maxIntervalNs) / 1e6;
+            sh.medianIntervalMs = sorted.empty() ? 0 : double(sorted[sorted.size() / 2]) / 1e3;
+            h.packets += sh.packets;
+            h.fps += sh.fps;
+            h.lost += sh.lost;
+            h.outOfOrder += sh.outOfOrder;
+            h.duplicates += sh.duplicates;
+            lastNs = std::max(lastNs, s.lastNs);
+            if (s.maxIntervalNs > longest) {
+                longest = s.maxIntervalNs;
+                medianMs = sh.medianIntervalMs;
+            }
+            if (nowNs - s.lastNs <= kStaleNs)
+                ++recentSenders;
+            h.sources.append(sh);
+        }
+        const qint64 faults = h.lost + h.outOfOrder + h.duplicates;
+        if (nowNs - lastNs > kStaleNs)
+            h.state = QStringLiteral("stale");
+        else if (recentSenders >= 2)
+            h.state = QStringLiteral("conflict");
+        else if (faults * 100 > h.packets || (medianMs > 0 && longest > 100'000'000 && double(longest) / 1e6 > 4 * medianMs))
+            h.state = QStringLiteral("unstable");
+        else
+            h.state = QStringLiteral("ok");
+        out.append(h);
+    }
+    for (const quint16 p : patched) {
+        if (m_universes.count(p) == 0) {
+            UniverseHealth h;
+            h.portAddress = p;
+            h.state = QStringLiteral("never");
+            out.append(h);
+        }
+    }
+    std::sort(out.begin(), out.end(), [](const auto &a, const auto &b) { return a.portAddress < b.portAddress; });
+    out.erase(std::unique(out.begin(), out.end(),
+                          [](const auto &a, const auto &b) { return a.portAddress == b.portAddress; }),
+              out.end());
+    return out;
+}
+
+SyncHealth Analyser::sync() const
+{
+    SyncHealth s;
+    s.seen = m_syncPackets > 0;
+    s.packets = m_syncPackets;
+    if (m_live)
+        s.fps = double(std::count_if(m_recentSyncNs.begin(), m_recentSyncNs.end(),
+                                     [this](qint64 t) { return m_lastNs - t < kSecondNs; }));
+    else if (m_lastSyncNs > m_firstSyncNs)
+        s.fps = double(m_syncPackets - 1) * 1e9 / double(m_lastSyncNs - m_firstSyncNs);
+    return s;
+}
+
+} // namespace Health

@@ -1,0 +1,122 @@
+// The health counters on crafted streams, each checked exactly.
+#include "live/healthanalyser.h"
+
+#include <QtTest>
+
+namespace {
+
+// "25 1 0 7 512" per packet: time (ms), sender (1 = 10.0.0.1), universe,
+// sequence, length; "S 50" is an ArtSync at 50 ms. ";" separates events.
+void feed(Health::Analyser &analyser, const QString &events)
+{
+    for (const QString &event : events.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QStringList f = event.trimmed().split(QLatin1Char(' '));
+        if (f.at(0) == QLatin1String("S")) {
+            analyser.addSync(f.at(1).toLongLong() * 1'000'000, 0x0A000001, 6454);
+            continue;
+        }
+        analyser.addDmx(f.at(0).toLongLong() * 1'000'000, 0x0A000000 + f.at(1).toUInt(), 6454,
+                        quint16(f.at(2).toUInt()), quint8(f.at(3).toUInt()), f.at(4).toInt());
+    }
+}
+
+// Packets every 25 ms from sender 1 to universe 0 with these sequence numbers.
+QString numbered(const QList<int> &sequences)
+{
+    QStringList events;
+    for (int i = 0; i < sequences.size(); ++i)
+        events << QStringLiteral("%1 1 0 %2 512").arg(i * 25).arg(sequences[i]);
+    return events.join(QLatin1Char(';'));
+}
+
+} // namespace
+
+class TestHealthAnalyser : public QObject
+{
+    Q_OBJECT
+private slots:
+    void counters_data()
+    {
+        QTest::addColumn<QString>("events");
+        QTest::addColumn<qint64>("nowMs");
+        // universe 0: packets, lost, outOfOrder, duplicates, lengthChanges (first sender), syncMissed
+        QTest::addColumn<QList<qint64>>("expected");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<int>("senders");
+        QTest::newRow("in order") << numbered({1, 2, 3, 4, 5}) << qint64(100) << QList<qint64>{5, 0, 0, 0, 0, 0}
+                                  << "ok" << 1;
+        QTest::newRow("one dropped") << numbered({1, 2, 4, 5}) << qint64(75) << QList<qint64>{4, 1, 0, 0, 0, 0}
+                                     << "unstable" << 1;
+        QTest::newRow("swapped pair") << numbered({1, 3, 2, 4}) << qint64(75) << QList<qint64>{4, 0, 1, 0, 0, 0}
+                                      << "unstable" << 1;
+        QTest::newRow("duplicate") << numbered({1, 2, 2, 3}) << qint64(75) << QList<qint64>{4, 0, 0, 1, 0, 0}
+                                   << "unstable" << 1;
+        QTest::newRow("wrap") << numbered({253, 254, 255, 1, 2}) << qint64(100) << QList<qint64>{5, 0, 0, 0, 0, 0}
+                              << "ok" << 1;
+        QTest::newRow("dropped across the wrap") << numbered({254, 255, 2, 3}) << qint64(75)
+                                                 << QList<qint64>{4, 1, 0, 0, 0, 0} << "unstable" << 1;
+        QTest::newRow("late after the wrap") << numbered({254, 1, 255, 2}) << qint64(75)
+                                             << QList<qint64>{4, 0, 1, 0, 0, 0} << "unstable" << 1;
+        QTest::newRow("not numbered") << numbered({0, 0, 0}) << qint64(50) << QList<qint64>{3, 0, 0, 0, 0, 0}
+                                      << "ok" << 1;
+        QTest::newRow("length changes") << QStringLiteral("0 1 0 1 512; 25 1 0 2 512; 50 1 0 3 510; 75 1 0 4 512")
+                                        << qint64(75) << QList<qint64>{4, 0, 0, 0, 2, 0} << "ok" << 1;
+        QTest::newRow("two senders") << QStringLiteral("0 1 0 1 512; 5 2 0 9 512; 25 1 0 2 512; 30 2 0 10 512")
+                                     << qint64(30) << QList<qint64>{4, 0, 0, 0, 0, 0} << "conflict" << 2;
+        QTest::newRow("a second sender long gone") << QStringLiteral("0 2 0 1 512; 5000 1 0 1 512; 5025 1 0 2 512")
+                                                   << qint64(5025) << QList<qint64>{3, 0, 0, 0, 0, 0} << "ok" << 2;
+        QTest::newRow("stale") << numbered({1, 2}) << qint64(4100) << QList<qint64>{2, 0, 0, 0, 0, 0} << "stale"
+                               << 1;
+        QTest::newRow("a long pause") << (numbered({1, 2, 3, 4, 5, 6, 7, 8}) + QStringLiteral(";700 1 0 9 512"))
+                                      << qint64(700) << QList<qint64>{9, 0, 0, 0, 0, 0} << "unstable" << 1;
+        // Synced: once per period is right; twice (a torn frame) or not at all is a miss.
+        QTest::newRow("ArtSync") << QStringLiteral("0 1 0 1 512; S 10; 25 1 0 2 512; S 35; S 60; 70 1 0 3 512; "
+                                                   "75 1 0 4 512; S 85; 95 1 0 5 512; S 110")
+                                 << qint64(110) << QList<qint64>{5, 0, 0, 0, 0, 2} << "ok" << 1;
+    }
+    void counters()
+    {
+        QFETCH(QString, events);
+        QFETCH(qint64, nowMs);
+        QFETCH(QList<qint64>, expected);
+        QFETCH(QString, state);
+        QFETCH(int, senders);
+        Health::Analyser analyser;
+        feed(analyser, events);
+        const QVector<Health::UniverseHealth> universes = analyser.universes(nowMs * 1'000'000, {0, 7});
+        QCOMPARE(universes.size(), 2);
+        const Health::UniverseHealth &u = universes[0];
+        QCOMPARE(u.sources.size(), senders);
+        const Health::SourceHealth &first = u.sources.constLast(); // sender 1 or 2: the one that sent the most
+        const QList<qint64> got{u.packets, u.lost, u.outOfOrder, u.duplicates,
+                                std::max(first.lengthChanges, u.sources.constFirst().lengthChanges), u.syncMissed};
+        QCOMPARE(got, expected);
+        QCOMPARE(u.state, state);
+        QCOMPARE(universes[1].portAddress, quint16(7));
+        QCOMPARE(universes[1].state, QStringLiteral("never"));
+    }
+
+    void ratesAndIntervals()
+    {
+        Health::Analyser file;
+        feed(file, numbered({1, 2, 3, 4, 5}) + QStringLiteral(";200 1 0 6 512"));
+        const Health::SourceHealth s = file.universes(200'000'000).at(0).sources.at(0);
+        QCOMPARE(s.fps, 5 * 1000.0 / 200);
+        QCOMPARE(s.minIntervalMs, 25.0);
+        QCOMPARE(s.medianIntervalMs, 25.0);
+        QCOMPARE(s.maxIntervalMs, 100.0);
+        QCOMPARE(s.lastSeenMs, 0);
+        // Live: the packets of the last second.
+        Health::Analyser live(true);
+        QStringList events;
+        for (int i = 0; i < 90; ++i)
+            events << QStringLiteral("%1 1 0 %2 512").arg(i * 25).arg(i % 255 + 1);
+        feed(live, events.join(QLatin1Char(';')));
+        QCOMPARE(live.universes(2225'000'000LL).at(0).fps, 40.0);
+        QCOMPARE(live.sync().seen, false);
+        QVERIFY(!Health::definition(QStringLiteral("lost")).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestHealthAnalyser)
+#include "tst_healthanalyser.moc"
