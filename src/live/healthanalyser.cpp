@@ -1,6 +1,7 @@
 #include "live/healthanalyser.h"
 
 #include <algorithm>
+#include <map>
 
 namespace Health {
 
@@ -8,13 +9,18 @@ namespace {
 
 constexpr int kCycle = 255;
 constexpr int kHalfCycle = 127;
-constexpr size_t kIntervalsKept = 1024;
+constexpr size_t kIntervalsKept = 64; // about 1.5 s at 44 Hz: little to touch per packet on thousands of universes
 constexpr qint64 kSecondNs = 1'000'000'000LL;
 
-void keepLastSecond(std::vector<qint64> *times, qint64 nowNs)
+// Counts an arrival in one-second windows: the rate is the last full second's count.
+void countInWindow(qint64 timeNs, qint64 *startNs, qint64 *count, qint64 *lastCount)
 {
-    const auto old = std::find_if(times->begin(), times->end(), [nowNs](qint64 t) { return nowNs - t < kSecondNs; });
-    times->erase(times->begin(), old);
+    if (timeNs - *startNs >= kSecondNs) {
+        *lastCount = timeNs - *startNs < 2 * kSecondNs ? *count : 0;
+        *startNs = timeNs;
+        *count = 0;
+    }
+    ++*count;
 }
 
 // Steps forward from a to b in the cycle 1-255 (0 when equal).
@@ -60,9 +66,16 @@ void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 port
                       int length)
 {
     m_lastNs = std::max(m_lastNs, timeNs);
-    Universe &u = m_universes[portAddress];
+    Universe &u = *universeOf(portAddress);
     ++u.sinceSync;
-    Source &s = u.sources[(quint64(address) << 16) | port];
+    const quint64 key = (quint64(address) << 16) | port;
+    auto found = std::find_if(u.sources.begin(), u.sources.end(), [key](const auto &e) { return e.first == key; });
+    if (found == u.sources.end()) {
+        u.sources.emplace_back(key, Source());
+        std::sort(u.sources.begin(), u.sources.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+        found = std::find_if(u.sources.begin(), u.sources.end(), [key](const auto &e) { return e.first == key; });
+    }
+    Source &s = found->second;
     if (s.packets > 0) {
         const qint64 interval = timeNs - s.lastNs;
         s.minIntervalNs = s.minIntervalNs < 0 ? interval : std::min(s.minIntervalNs, interval);
@@ -82,10 +95,8 @@ void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 port
     ++s.packets;
     s.lastNs = timeNs;
     s.lastLength = length;
-    if (m_live) {
-        s.recentNs.push_back(timeNs);
-        keepLastSecond(&s.recentNs, timeNs);
-    }
+    if (m_live)
+        countInWindow(timeNs, &s.windowStartNs, &s.windowCount, &s.lastWindowCount);
     if (sequence == 0)
         return; // not numbered
     if (s.highest == 0) {
@@ -117,37 +128,43 @@ void Analyser::addSync(qint64 timeNs, quint32, quint16)
 {
     m_lastNs = std::max(m_lastNs, timeNs);
     // A universe sent twice, or not at all, between two ArtSync packets missed a sync.
-    if (m_syncPackets > 0) {
-        for (auto &[portAddress, u] : m_universes) {
-            if (u.sinceSync != 1)
-                ++u.syncMissed;
-        }
-    } else {
-        m_firstSyncNs = timeNs;
+    for (const std::unique_ptr<Universe> &u : m_universes) {
+        if (!u)
+            continue;
+        if (m_syncPackets > 0 && u->sinceSync != 1)
+            ++u->syncMissed;
+        u->sinceSync = 0;
     }
-    for (auto &[portAddress, u] : m_universes)
-        u.sinceSync = 0;
+    if (m_syncPackets == 0)
+        m_firstSyncNs = timeNs;
     ++m_syncPackets;
     m_lastSyncNs = timeNs;
-    if (m_live) {
-        m_recentSyncNs.push_back(timeNs);
-        keepLastSecond(&m_recentSyncNs, timeNs);
-    }
+    if (m_live)
+        countInWindow(timeNs, &m_syncWindowStartNs, &m_syncWindowCount, &m_lastSyncWindowCount);
+}
+
+Analyser::Universe *Analyser::universeOf(quint16 portAddress)
+{
+    if (m_universes.empty())
+        m_universes.resize(0x8000);
+    std::unique_ptr<Universe> &u = m_universes[portAddress & 0x7FFF];
+    if (!u)
+        u = std::make_unique<Universe>();
+    return u.get();
 }
 
 void Analyser::reset()
 {
     m_universes.clear();
     m_syncPackets = 0;
-    m_recentSyncNs.clear();
+    m_syncWindowStartNs = m_syncWindowCount = m_lastSyncWindowCount = 0;
     m_lastNs = 0;
 }
 
 double Analyser::fpsOf(const Source &s, qint64 nowNs) const
 {
-    if (m_live)
-        return double(std::count_if(s.recentNs.begin(), s.recentNs.end(),
-                                    [nowNs](qint64 t) { return nowNs - t < kSecondNs; }));
+    if (m_live) // the last full second, or nothing when the sender has been silent since
+        return nowNs - s.windowStartNs < 2 * kSecondNs ? double(s.lastWindowCount) : 0.0;
     const qint64 span = s.lastNs - s.firstNs;
     return span > 0 ? double(s.packets - 1) * 1e9 / double(span) : 0.0;
 }
@@ -155,9 +172,12 @@ double Analyser::fpsOf(const Source &s, qint64 nowNs) const
 QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16> &patched) const
 {
     QVector<UniverseHealth> out;
-    for (const auto &[portAddress, u] : m_universes) {
+    for (size_t index = 0; index < m_universes.size(); ++index) {
+        if (!m_universes[index])
+            continue;
+        const Universe &u = *m_universes[index];
         UniverseHealth h;
-        h.portAddress = portAddress;
+        h.portAddress = quint16(index);
         h.syncMissed = u.syncMissed;
         qint64 lastNs = 0, longest = 0;
         double medianMs = 0;
@@ -204,7 +224,7 @@ QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16>
         out.append(h);
     }
     for (const quint16 p : patched) {
-        if (m_universes.count(p) == 0) {
+        if (size_t(p) >= m_universes.size() || !m_universes[p]) {
             UniverseHealth h;
             h.portAddress = p;
             h.state = QStringLiteral("never");
@@ -224,8 +244,7 @@ SyncHealth Analyser::sync() const
     s.seen = m_syncPackets > 0;
     s.packets = m_syncPackets;
     if (m_live)
-        s.fps = double(std::count_if(m_recentSyncNs.begin(), m_recentSyncNs.end(),
-                                     [this](qint64 t) { return m_lastNs - t < kSecondNs; }));
+        s.fps = double(m_lastSyncWindowCount);
     else if (m_lastSyncNs > m_firstSyncNs)
         s.fps = double(m_syncPackets - 1) * 1e9 / double(m_lastSyncNs - m_firstSyncNs);
     return s;

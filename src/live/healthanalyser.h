@@ -3,8 +3,7 @@
 #include <QString>
 #include <QVector>
 
-#include <map>
-#include <unordered_map>
+#include <memory>
 #include <vector>
 
 // Network health per universe and per source: frame rate, intervals, the
@@ -93,23 +92,27 @@ private:
         quint8 highest = 0;                // 0: no numbered packet yet
         std::vector<bool> missing = std::vector<bool>(256, false);
         qint64 lost = 0, outOfOrder = 0, duplicates = 0, lengthChanges = 0;
-        std::vector<qint32> intervalsUs;   // a ring of the latest, for the median
+        std::vector<qint32> intervalsUs;   // a ring of the latest 64, for the median
         size_t nextInterval = 0;
         qint64 minIntervalNs = -1, maxIntervalNs = 0;
-        std::vector<qint64> recentNs;      // live: the arrivals of the last second
+        qint64 windowStartNs = 0;          // live: packets counted in one-second windows
+        qint64 windowCount = 0;
+        qint64 lastWindowCount = 0;        // the last full second
     };
     struct Universe
     {
-        std::map<quint64, Source> sources; // by (address << 16) | port: one or two, rarely more
+        std::vector<std::pair<quint64, Source>> sources; // by (address << 16) | port: one or two, rarely more
         int sinceSync = 0;
         qint64 syncMissed = 0;
     };
     double fpsOf(const Source &s, qint64 nowNs) const;
 
     bool m_live;
-    std::unordered_map<quint16, Universe> m_universes;
+    Universe *universeOf(quint16 portAddress);
+    // By Port-Address (15 bits): one pointer each, made on a universe's first packet.
+    std::vector<std::unique_ptr<Universe>> m_universes;
     qint64 m_syncPackets = 0, m_firstSyncNs = 0, m_lastSyncNs = 0;
-    std::vector<qint64> m_recentSyncNs;
+    qint64 m_syncWindowStartNs = 0, m_syncWindowCount = 0, m_lastSyncWindowCount = 0;
     qint64 m_lastNs = 0;
 };
 
