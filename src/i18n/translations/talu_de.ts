@@ -1518,6 +1518,10 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
         <source>Patched universes no device outputs: %1</source>
         <translation>Gepatchte Universen, die kein Gerät ausgibt: %1</translation>
     </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
 </context>
 <context>
     <name>PacketListModel</name>

@@ -1518,6 +1518,10 @@ Tocar la vista con el ratón lo detiene.</translation>
         <source>Patched universes no device outputs: %1</source>
         <translation>Universos del patch que ningún dispositivo emite: %1</translation>
     </message>
+    <message>
+        <source>Status</source>
+        <translation>Estatus</translation>
+    </message>
 </context>
 <context>
     <name>PacketListModel</name>

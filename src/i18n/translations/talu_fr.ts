@@ -1518,6 +1518,10 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
         <source>Patched universes no device outputs: %1</source>
         <translation>Univers patchés qu&apos;aucun appareil n&apos;émet : %1</translation>
     </message>
+    <message>
+        <source>Status</source>
+        <translation>Statut</translation>
+    </message>
 </context>
 <context>
     <name>PacketListModel</name>
