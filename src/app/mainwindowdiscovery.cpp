@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 
 #include "artnet/nodediscovery.h"
+#include "live/livepipeline.h"
 #include "artnet/widgets/nodediscoverywindow.h"
 
 #include <QDir>
@@ -21,6 +22,8 @@ void MainWindow::showNodeDiscovery()
         connect(m_discoveryWindow, &NodeDiscoveryWindow::scanRequested, this, &MainWindow::startDiscovery);
         connect(m_discoveryWindow, &NodeDiscoveryWindow::stopRequested, this, [this] {
             m_discovery->stop();
+            if (m_live)
+                m_live->setPollReplyTap(nullptr);
             m_discoveryWindow->setScanning(false, tr("Stopped."));
         });
         connect(m_discoveryWindow, &NodeDiscoveryWindow::exportRequested, this, &MainWindow::exportDiscovery);
@@ -55,8 +58,17 @@ void MainWindow::startDiscovery(const QString &target)
         m_discoveryWindow->setScanning(false, tr("\"%1\" is not an IPv4 address.").arg(target));
         return;
     }
+    // With the window's node on 6454, the replies come through the node's socket.
+    const bool nodeListens = m_live && m_live->node().isRunning() && m_live->node().port() == ArtNet::kDefaultPort;
+    if (m_live) {
+        m_live->setPollReplyTap(nodeListens ? std::function<void(quint32, QByteArrayView)>(
+                                                  [this](quint32 sender, QByteArrayView datagram) {
+                                                      m_discovery->takeReply(sender, datagram);
+                                                  })
+                                            : nullptr);
+    }
     QString error;
-    if (!m_discovery->start(QHostAddress::AnyIPv4, address, &error)) {
+    if (!m_discovery->start(address, nodeListens, &error)) {
         m_discoveryWindow->setScanning(false, tr("Cannot scan: %1").arg(error));
         return;
     }

@@ -149,12 +149,16 @@ bool DiscoveryTable::replyReceived(quint32 sender, QByteArrayView datagram, qint
     device.lastSeenMs = nowMs;
     if (!device.lengths.contains(fields.length))
         device.lengths.append(fields.length);
-    // The first reply after a poll answers it; later ones (the node's own
-    // announcements) do not make it slower.
-    const auto poll = std::upper_bound(m_polls.cbegin(), m_polls.cend(), nowMs);
-    if (poll != m_polls.cbegin() && *std::prev(poll) != device.answeredPollMs) {
-        device.answeredPollMs = *std::prev(poll);
-        device.slowestMs = std::max(device.slowestMs, nowMs - device.answeredPollMs);
+    // A reply answers the oldest poll of the last 5 s that the device has not
+    // answered yet: one more than 3 s late still counts against its own poll,
+    // though the next poll has gone out meanwhile. Later pages and the node's
+    // own announcements answer nothing.
+    for (const qint64 poll : m_polls) {
+        if (poll > nowMs || poll <= device.answeredPollMs || nowMs - poll > kForgetPollMs)
+            continue;
+        device.answeredPollMs = poll;
+        device.slowestMs = std::max(device.slowestMs, nowMs - poll);
+        break;
     }
     return true;
 }
@@ -266,6 +270,21 @@ NodeDiscovery::NodeDiscovery(QObject *parent) : QObject(parent)
 {
     m_pollTimer.setInterval(kPollIntervalMs);
     connect(&m_pollTimer, &QTimer::timeout, this, &NodeDiscovery::pollNow);
+    m_updateTimer.setSingleShot(true);
+    m_updateTimer.setInterval(250);
+    connect(&m_updateTimer, &QTimer::timeout, this, &NodeDiscovery::updated);
+}
+
+void NodeDiscovery::changed()
+{
+    if (!m_updateTimer.isActive())
+        m_updateTimer.start();
+}
+
+void NodeDiscovery::takeReply(quint32 sender, QByteArrayView datagram)
+{
+    if (m_socket && m_table.replyReceived(sender, datagram, nowMs()))
+        changed();
 }
 
 NodeDiscovery::~NodeDiscovery() = default;
@@ -275,17 +294,19 @@ qint64 NodeDiscovery::nowMs() const
     return monotonic().elapsed();
 }
 
-bool NodeDiscovery::start(const QHostAddress &bindAddress, const QHostAddress &target, QString *error)
+bool NodeDiscovery::start(const QHostAddress &target, bool nodeListens, QString *error)
 {
     stop();
     auto socket = std::make_unique<QUdpSocket>();
-    // Port 6454 shared with our own node: replies are broadcast or sent to the port.
-    if (!socket->bind(QHostAddress::AnyIPv4, kDefaultPort, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint)) {
+    // Our node answers a poll at its sender's port too, so it reaches a socket of our own either way.
+    const bool bound = nodeListens ? socket->bind(QHostAddress::AnyIPv4, 0)
+                                   : socket->bind(QHostAddress::AnyIPv4, kDefaultPort,
+                                                  QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
+    if (!bound) {
         if (error)
             *error = socket->errorString();
         return false;
     }
-    Q_UNUSED(bindAddress); // the poll leaves by the target's route; the socket takes replies from everywhere
     // This machine's addresses: a node of ours among the replies is marked as such.
     QVector<quint32> local;
     for (const QHostAddress &a : QNetworkInterface::allAddresses()) {
@@ -319,7 +340,7 @@ void NodeDiscovery::pollNow()
         return;
     m_table.pollSent(nowMs());
     m_socket->writeDatagram(buildPoll(), m_target, kDefaultPort);
-    emit updated();
+    changed(); // offline devices show at the next poll
 }
 
 void NodeDiscovery::readReplies()
@@ -330,7 +351,7 @@ void NodeDiscovery::readReplies()
         changed |= m_table.replyReceived(datagram.senderAddress().toIPv4Address(), datagram.data(), nowMs());
     }
     if (changed)
-        emit updated();
+        this->changed();
 }
 
 } // namespace ArtNet

@@ -71,6 +71,7 @@ class DiscoveryTable
 {
 public:
     static constexpr qint64 kAnswerWithinMs = 3000;
+    static constexpr qint64 kForgetPollMs = 5000;
 
     void setLocalAddresses(const QVector<quint32> &addresses) { m_local = addresses; }
     void pollSent(qint64 nowMs);
@@ -108,10 +109,15 @@ public:
     explicit NodeDiscovery(QObject *parent = nullptr);
     ~NodeDiscovery() override;
 
-    // Binds port 6454 on every address (shared with a node of ours, which
-    // answers the poll too) and polls target, which names the interface by
-    // its route (its subnet broadcast, or one address). False with a message.
-    bool start(const QHostAddress &bindAddress, const QHostAddress &target, QString *error);
+    // Polls target, which names the interface by its route (its subnet
+    // broadcast, or one address), and reads the replies on port 6454 of every
+    // address. With a node of ours listening on 6454, pass nodeListens: a
+    // second socket on the port would take the unicast datagrams meant for
+    // the node, so the polls leave from a port of their own and the node's
+    // owner hands over the replies it receives (takeReply). False with a message.
+    bool start(const QHostAddress &target, bool nodeListens, QString *error);
+    // A reply that arrived elsewhere (the node's socket).
+    void takeReply(quint32 sender, QByteArrayView datagram);
     void stop();
     bool isRunning() const;
     void pollNow();
@@ -125,9 +131,12 @@ signals:
 private:
     void readReplies();
 
+    void changed();
+
     std::unique_ptr<QUdpSocket> m_socket;
     QHostAddress m_target;
     QTimer m_pollTimer;
+    QTimer m_updateTimer; // updated() at most every 250 ms, however many replies come
     DiscoveryTable m_table;
 };
 

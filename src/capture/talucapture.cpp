@@ -94,7 +94,7 @@ int failed(pcap_t *handle, int status, const char *what)
 {
     std::fprintf(stderr, "talu-capture: %s: %s\n", what, pcap_geterr(handle));
     pcap_close(handle);
-    if (status == PCAP_ERROR_PERM_DENIED)
+    if (status == PCAP_ERROR_PERM_DENIED || status == PCAP_ERROR_PROMISC_PERM_DENIED)
         return ExitNotPermitted;
     if (status == PCAP_ERROR_NO_SUCH_DEVICE)
         return ExitNoDevice;

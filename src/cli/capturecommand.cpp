@@ -103,7 +103,7 @@ int runCaptureCommand(const QStringList &arguments)
     double runSeconds = -1;
     if (parser.isSet(seconds))
         runSeconds = parser.value(seconds).toDouble(&ok);
-    if (!ok || (parser.isSet(seconds) && runSeconds < 0))
+    if (!ok || (parser.isSet(seconds) && !(runSeconds >= 0 && runSeconds <= 1e6)))
         return usageError(QStringLiteral("\"%1\" is not a number of seconds.").arg(parser.value(seconds)));
     qint64 packetCount = 0;
     if (parser.isSet(count))

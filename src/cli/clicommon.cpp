@@ -5,6 +5,8 @@
 #include <QTimer>
 
 #include <atomic>
+#include <cmath>
+#include <limits>
 #include <csignal>
 #include <cstdio>
 
@@ -88,8 +90,8 @@ void execUntilInterrupted(double seconds, const std::function<void()> &stop)
     runTimer.setSingleShot(true);
     runTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&runTimer, &QTimer::timeout, stopOnce);
-    if (seconds >= 0)
-        runTimer.start(int(seconds * 1000));
+    if (std::isfinite(seconds) && seconds >= 0)
+        runTimer.start(int(std::min(seconds * 1000, double(std::numeric_limits<int>::max()))));
     QCoreApplication::exec();
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);

@@ -99,7 +99,7 @@ int runDiscoverCommand(const QStringList &arguments)
         return usageError(QStringLiteral("\"%1\" is not an IPv4 address.").arg(parser.value(target)));
     bool ok = false;
     const double runSeconds = parser.value(seconds).toDouble(&ok);
-    if (!ok || runSeconds < 0 || runSeconds > 1e6)
+    if (!ok || !(runSeconds >= 0 && runSeconds <= 1e6))
         return usageError(QStringLiteral("\"%1\" is not a number of seconds.").arg(parser.value(seconds)));
     QVector<quint16> patchUniverses;
     if (parser.isSet(patch)) {
@@ -113,7 +113,8 @@ int runDiscoverCommand(const QStringList &arguments)
 
     NodeDiscovery discovery;
     QString error;
-    if (!discovery.start(from, to, &error)) {
+    // Standalone: the scan reads port 6454 itself (stop a node of this machine first, or it loses unicast).
+    if (!discovery.start(to, false, &error)) {
         if (parser.isSet(json))
             printJson(QJsonObject{{QStringLiteral("nodes"), QJsonArray()}, {QStringLiteral("error"), error}});
         else

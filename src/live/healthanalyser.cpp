@@ -77,7 +77,8 @@ void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 port
     }
     Source &s = found->second;
     if (s.packets > 0) {
-        const qint64 interval = timeNs - s.lastNs;
+        // Times that step back (a merged capture, a clock set) count as no interval.
+        const qint64 interval = std::max<qint64>(0, timeNs - s.lastNs);
         s.minIntervalNs = s.minIntervalNs < 0 ? interval : std::min(s.minIntervalNs, interval);
         s.maxIntervalNs = std::max(s.maxIntervalNs, interval);
         // A ring of the latest intervals: the median is taken when asked, not per packet.
@@ -157,6 +158,7 @@ void Analyser::reset()
 {
     m_universes.clear();
     m_syncPackets = 0;
+    m_firstSyncNs = m_lastSyncNs = 0;
     m_syncWindowStartNs = m_syncWindowCount = m_lastSyncWindowCount = 0;
     m_lastNs = 0;
 }

@@ -31,6 +31,9 @@ qint64 LivePipeline::healthNowNs()
 void LivePipeline::JournalFeed::journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort,
                                                 QByteArrayView bytes, qint64 writeResult)
 {
+    if (direction == Direction::Received && m_pipeline.m_pollReplyTap
+        && ArtNet::classifyDatagram(bytes).kind == ArtNet::DatagramKind::PollReply)
+        m_pipeline.m_pollReplyTap(peer.toIPv4Address(), bytes);
     if (direction == Direction::Received && m_pipeline.m_healthEnabled) {
         const ArtNet::ClassifiedDatagram c = ArtNet::classifyDatagram(bytes);
         if (c.kind == ArtNet::DatagramKind::Dmx)

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class PixelColourBuffer;
@@ -43,10 +44,16 @@ public:
     // has the history; an owner without a log (talu-cli listen) disables it.
     PacketLog::PacketJournal &journal() { return m_journal; }
     // Network health of every datagram the node receives (ArtDmx and ArtSync),
-    // live: on unless switched off.
+    // live; off until someone reads it (talu-cli listen).
     const Health::Analyser &health() const { return m_health; }
     void setHealthEnabled(bool on) { m_healthEnabled = on; }
     static qint64 healthNowNs();
+    // Every ArtPollReply the node receives (it drops them itself), for a node
+    // discovery that must not open a second socket on the node's port. Empty: none.
+    void setPollReplyTap(std::function<void(quint32 sender, QByteArrayView datagram)> tap)
+    {
+        m_pollReplyTap = std::move(tap);
+    }
 
     // Where received universes are evaluated (neither owned; both must stay
     // alive until replaced). Null for either: nothing is evaluated.
@@ -74,7 +81,10 @@ private:
     {
     public:
         explicit JournalFeed(LivePipeline &pipeline) : m_pipeline(pipeline) {}
-        bool isEnabled() const override { return m_pipeline.m_journal.isEnabled() || m_pipeline.m_healthEnabled; }
+        bool isEnabled() const override
+        {
+            return m_pipeline.m_journal.isEnabled() || m_pipeline.m_healthEnabled || m_pipeline.m_pollReplyTap;
+        }
         void journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort, QByteArrayView bytes,
                              qint64 writeResult) override;
 
@@ -86,7 +96,8 @@ private:
 
     PacketLog::PacketJournal m_journal;
     Health::Analyser m_health{true};
-    bool m_healthEnabled = true;
+    bool m_healthEnabled = false;
+    std::function<void(quint32, QByteArrayView)> m_pollReplyTap;
     JournalFeed m_journalFeed{*this};
     // Declared after the journal so it goes first: the node holds the feed.
     std::unique_ptr<ArtNetNode> m_node;

@@ -81,7 +81,8 @@ void DotStamps::prepare(double radius)
 
 void DotStamps::stamp(QRgb *bits, qsizetype stride, int width, int height, double x, double y, QRgb colour) const
 {
-    if (m_size == 0)
+    // Off the picture (or not a number): nothing to draw, and no cast of a huge value.
+    if (m_size == 0 || !(x > -m_size && y > -m_size && x < width + m_size && y < height + m_size))
         return;
     // The mask whose sub-pixel position is nearest the disc's top-left edge.
     const double left = (x - m_radius) * m_steps;

@@ -14,6 +14,7 @@ namespace {
 // linear, and dots closer in depth than 1/4096 of the model never overlap
 // visibly in a different order.
 constexpr int kDepthBuckets = 4096;
+constexpr double kMaxStampedRadius = 48.0;
 constexpr double kArrowLength = 50.0;
 constexpr double kArrowHead = 8.0;
 constexpr double kArrowHeadAngle = 5.0 * 3.14159265358979323846 / 6.0;
@@ -95,14 +96,18 @@ void Monitor3DScene::paint(QPainter &painter)
     // squares go straight into an image of the view, background included,
     // and the painter gets one blit: the per-call cost of a painter fill is
     // most of a small dot's.
-    const bool direct = painter.deviceTransform().type() <= QTransform::TxTranslate && ensureBackground();
+    // Zoomed in until a dot is larger than a stamp is worth, the few dots on
+    // screen go through the painter (masks per radius would be rebuilt every
+    // zoom step).
+    const double r = m_camera.projectionScale() * m_ledRadius;
+    const bool direct = painter.deviceTransform().type() <= QTransform::TxTranslate
+                        && (m_fastDraw || r <= kMaxStampedRadius) && ensureBackground();
     if (!direct)
         paintBackground(painter);
     painter.setRenderHint(QPainter::Antialiasing, true);
 
     painter.save();
     painter.translate(m_camera.pan);
-    const double r = m_camera.projectionScale() * m_ledRadius;
     const QRectF cull = m_viewRect.translated(-m_camera.pan).adjusted(-r, -r, r, r);
     if (direct)
         paintPointsDirect(painter, r, cull);

@@ -140,7 +140,8 @@ qint64 toNs(quint64 ticks, quint64 unitsPerSecond, qint64 offsetSeconds)
     if (unitsPerSecond == 0)
         return 0;
     // Damaged files can claim any time; keep the sum inside what 64-bit nanoseconds hold (years 1678 to 2262).
-    constexpr qint64 kMaxSeconds = 9'000'000'000LL;
+    // Half of that, so that the difference of any two times still fits.
+    constexpr qint64 kMaxSeconds = 4'500'000'000LL;
     const quint64 seconds = std::min<quint64>(ticks / unitsPerSecond, quint64(kMaxSeconds));
     const quint64 fraction = ticks % unitsPerSecond;
     const qint64 ns = qint64(double(fraction) * 1e9 / double(unitsPerSecond));
@@ -364,6 +365,7 @@ LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress, 
     std::vector<Interface> interfaces;
     qint64 offset = 0;
     qint64 packet = 0;
+    qint64 blocks = 0;
     bool sawSection = false;
     while (offset < bytes.size()) {
         const qint64 left = bytes.size() - offset;
@@ -453,7 +455,9 @@ LogLoadResult readPcapng(QByteArrayView bytes, const LogReadProgress &progress, 
             }
         }
         offset += total;
-        if (progress && result.records.size() >= kProgressRecords && !progress(result, offset))
+        // Also every 64k blocks, so that a capture of little UDP can be stopped.
+        ++blocks;
+        if (progress && (result.records.size() >= kProgressRecords || blocks % 65536 == 0) && !progress(result, offset))
             break;
     }
     result.ok = sawSection;

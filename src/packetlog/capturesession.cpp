@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTimer>
 
 namespace PacketLog {
 
@@ -30,6 +31,16 @@ LogMessage missingHelper()
 }
 
 // The helper's "talu-capture: ..." lines without the prefix; the last one says what went wrong.
+LogMessage notPermitted(const QString &adapter, const QString &why)
+{
+    return LogMessage(
+        QT_TRANSLATE_NOOP("PacketLog",
+                          "Capturing on %1 is not permitted (%2). Only the capture helper may capture: join "
+                          "the group \"%3\" (sudo usermod -aG %3 $USER, then log in again), or give a helper "
+                          "you built yourself the right with: sudo setcap cap_net_raw,cap_net_admin=eip %4"),
+        {adapter, why, QString::fromLatin1(kCaptureGroup), captureHelperPath()});
+}
+
 QString lastComplaint(const QByteArray &errors)
 {
     QString text;
@@ -45,9 +56,11 @@ QString lastComplaint(const QByteArray &errors)
 
 QString captureHelperPath()
 {
+    // Found when it exists: the package lets only the group "talu-capture" run
+    // it, and a user outside the group must hear that, not "not installed".
     const QString forced = qEnvironmentVariable("TALU_CAPTURE_HELPER");
     if (!forced.isEmpty())
-        return QFileInfo(forced).isExecutable() ? forced : QString();
+        return QFileInfo(forced).isFile() ? forced : QString();
     const QDir programDir(QCoreApplication::applicationDirPath());
     const QString candidates[] = {
         programDir.filePath(helperName()),
@@ -56,7 +69,7 @@ QString captureHelperPath()
         programDir.filePath(QStringLiteral("../capture/") + helperName()),
     };
     for (const QString &path : candidates) {
-        if (QFileInfo(path).isExecutable())
+        if (QFileInfo(path).isFile())
             return QDir::cleanPath(path);
     }
     return {};
@@ -99,8 +112,11 @@ CaptureSession::CaptureSession(QObject *parent) : QObject(parent)
     connect(&m_process, &QProcess::finished, this, &CaptureSession::finish);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
-            m_failure = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "The capture helper could not be started: %1"),
-                                   {m_process.errorString()});
+            // Installed but not ours to run: the user is not in the capture group.
+            m_failure = QFileInfo(m_process.program()).isExecutable()
+                            ? LogMessage(QT_TRANSLATE_NOOP("PacketLog", "The capture helper could not be started: %1"),
+                                         {m_process.errorString()})
+                            : notPermitted(m_adapter.name, m_process.errorString());
             emit stopped(m_failure);
         }
     });
@@ -154,6 +170,11 @@ void CaptureSession::stop()
         return;
     m_stopAsked = true;
     m_process.terminate();
+    // A helper that cannot take the signal (Windows consoles, one stuck in the driver) is killed.
+    QTimer::singleShot(3000, this, [this] {
+        if (isRunning())
+            m_process.kill();
+    });
 }
 
 std::vector<PacketRecord> CaptureSession::takeRecords()
@@ -215,12 +236,7 @@ void CaptureSession::finish(int exitCode, QProcess::ExitStatus status)
                                                               "packets captured until then are kept."),
                                {QString::number(m_records)});
     } else if (exitCode == kHelperNotPermitted) {
-        error = LogMessage(
-            QT_TRANSLATE_NOOP("PacketLog",
-                              "Capturing on %1 is not permitted (%2). Only the capture helper may capture: join "
-                              "the group \"%3\" (sudo usermod -aG %3 $USER, then log in again), or give a helper "
-                              "you built yourself the right with: sudo setcap cap_net_raw,cap_net_admin=eip %4"),
-            {m_adapter.name, complaint, QString::fromLatin1(kCaptureGroup), captureHelperPath()});
+        error = notPermitted(m_adapter.name, complaint);
     } else if (exitCode == kHelperNoAdapter) {
         error = LogMessage(QT_TRANSLATE_NOOP("PacketLog", "There is no adapter %1 to capture on."), {m_adapter.name});
     } else if (exitCode != 0) {

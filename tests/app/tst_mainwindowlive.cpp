@@ -188,7 +188,7 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     MainWindow w;
     click(&w, QStringLiteral("Live broadcast"));
     auto *panel = w.findChild<BroadcastPanel *>();
-    panel->setAddress(kNodeAddress.toString());
+    panel->setAddress(QString()); // any address: a second socket on 6454 would take its unicast
     panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(6454);
     click(panel, QStringLiteral("Start listening"));
     QVERIFY(button(panel, QStringLiteral("Stop listening")));
@@ -209,9 +209,17 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     const QTreeWidgetItem *ours = table->topLevelItem(0);
     QCOMPARE(ours->text(NodeDiscoveryWindow::AddressColumn), QStringLiteral("192.0.2.1"));
     QCOMPARE(ours->text(NodeDiscoveryWindow::ShortNameColumn), QStringLiteral("TorvaneTester"));
-    QCOMPARE(ours->text(NodeDiscoveryWindow::StateColumn), QStringLiteral("this program"));
+    // Bound to any address, the node's replies carry IP 0.0.0.0, and the scan says so.
+    QCOMPARE(ours->text(NodeDiscoveryWindow::StateColumn), QStringLiteral("this program · 1 finding(s)"));
+    QCOMPARE(ours->child(1)->text(0),
+             QStringLiteral("Finding: Its IP field says 0.0.0.0, but the replies come from 192.0.2.1."));
     QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("universesWithoutNode"))->text(),
              QStringLiteral("Load a patch to see which of its universes no device outputs."));
+    // The scan opened no second socket on the node's port: unicast DMX still reaches the node.
+    QUdpSocket console;
+    QVERIFY(console.bind(kControllerAddress, 0));
+    console.writeDatagram(ArtNet::buildDmx(0, 1, QByteArray(8, 'x')), kNodeAddress, 6454);
+    QTRY_COMPARE(w.livePipeline()->node().stats().dmxPackets, quint64(1));
     QTest::mouseClick(scan, Qt::LeftButton);
     QCOMPARE(scan->text(), QStringLiteral("Scan"));
     QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(), QStringLiteral("Stopped."));

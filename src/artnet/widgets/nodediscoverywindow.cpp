@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QHideEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QHostAddress>
@@ -132,8 +133,8 @@ void NodeDiscoveryWindow::showDevices(const QVector<ArtNet::DiscoveredDevice> &d
 
 void NodeDiscoveryWindow::hideEvent(QHideEvent *event)
 {
-    // Polling goes on only while the table is open.
-    if (m_scanning)
+    // Polling goes on only while the table is open (minimising is not closing).
+    if (m_scanning && !event->spontaneous())
         emit stopRequested();
     QWidget::hideEvent(event);
 }

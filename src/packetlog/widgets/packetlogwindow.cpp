@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QHideEvent>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -372,8 +373,8 @@ void PacketLogWindow::showSelected()
 
 void PacketLogWindow::hideEvent(QHideEvent *event)
 {
-    // Nobody watches a capture in a closed window.
-    if (m_capturing)
+    // Nobody watches a capture in a closed window (minimising is not closing).
+    if (m_capturing && !event->spontaneous())
         emit captureStopRequested();
     QWidget::hideEvent(event);
 }
