@@ -34,7 +34,8 @@ QHash<QString, QString> dictionary(const QString &language)
         if (xml.name() == QLatin1String("source")) {
             source = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
-            const QString translation = xml.readElementText();
+            // Plural forms are child elements; their texts run together, which no shown text matches.
+            const QString translation = xml.readElementText(QXmlStreamReader::IncludeChildElements);
             if (translation != source)
                 texts.insert(source, translation);
         }
