@@ -73,6 +73,11 @@ ClassifiedDatagram classifyDatagram(QByteArrayView d)
     return c;
 }
 
+bool isArtSync(QByteArrayView d)
+{
+    return d.size() >= 10 && hasIdAt(d, 0) && le16At(d, 8) == kOpSync;
+}
+
 QString kelDeviceName(QByteArrayView d)
 {
     if (d.size() < kKelPrefixSize)

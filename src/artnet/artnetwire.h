@@ -20,6 +20,8 @@ constexpr quint16 kOpPollReply = 0x2100;
 constexpr quint16 kOpDmx = 0x5000;
 // KEL devices send ArtDmx behind a 12-byte device prefix with their own OpCode.
 constexpr quint16 kOpKelDmx = 0x5300;
+// ArtSync: the sender's "show the frames sent so far now".
+constexpr quint16 kOpSync = 0x5200;
 constexpr int kPollReplySize = 239;
 constexpr int kDmxHeaderSize = 18;
 constexpr int kKelPrefixSize = 12;
@@ -57,6 +59,9 @@ struct ClassifiedDatagram
 };
 
 ClassifiedDatagram classifyDatagram(QByteArrayView datagram);
+
+// An ArtSync datagram (the node itself takes no notice of it).
+bool isArtSync(QByteArrayView datagram);
 
 // The device name in a KEL datagram's prefix: up to 10 Latin-1 bytes from
 // offset 2, ending at the first zero. Empty when the datagram is too short.

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr quint16 kOpSync = 0x5200;
-
 QJsonObject sourceJson(const Health::SourceHealth &s)
 {
     return QJsonObject{{QStringLiteral("address"), QHostAddress(s.address).toString()},
@@ -121,7 +119,7 @@ int runHealthCommand(const QStringList &arguments)
             bytes, [&analyser](const PacketLog::PacketRecord &r, QByteArrayView payload) {
                 if (r.dstPort != ArtNet::kDefaultPort || !r.isArtNet())
                     return;
-                if (r.opcode == kOpSync) {
+                if (r.opcode == ArtNet::kOpSync) {
                     analyser.addSync(r.timeNs, r.srcIp, r.srcPort);
                     return;
                 }

@@ -31,16 +31,16 @@ qint64 LivePipeline::healthNowNs()
 void LivePipeline::JournalFeed::journalDatagram(Direction direction, const QHostAddress &peer, quint16 peerPort,
                                                 QByteArrayView bytes, qint64 writeResult)
 {
-    if (direction == Direction::Received && m_pipeline.m_pollReplyTap
-        && ArtNet::classifyDatagram(bytes).kind == ArtNet::DatagramKind::PollReply)
-        m_pipeline.m_pollReplyTap(peer.toIPv4Address(), bytes);
-    if (direction == Direction::Received && m_pipeline.m_healthEnabled) {
+    // Received datagrams are classified once for the discovery tap and the health analysis.
+    if (direction == Direction::Received && (m_pipeline.m_pollReplyTap || m_pipeline.m_healthEnabled)) {
         const ArtNet::ClassifiedDatagram c = ArtNet::classifyDatagram(bytes);
-        if (c.kind == ArtNet::DatagramKind::Dmx)
+        if (m_pipeline.m_pollReplyTap && c.kind == ArtNet::DatagramKind::PollReply)
+            m_pipeline.m_pollReplyTap(peer.toIPv4Address(), bytes);
+        if (m_pipeline.m_healthEnabled && c.kind == ArtNet::DatagramKind::Dmx)
             m_pipeline.m_health.addDmx(healthNowNs(), peer.toIPv4Address(), peerPort, c.portAddress, c.sequence,
                                        c.dataLength);
-        else if (bytes.size() >= 10 && ArtNet::hasIdAt(bytes, 0) && quint8(bytes[8]) == 0x00 && quint8(bytes[9]) == 0x52)
-            m_pipeline.m_health.addSync(healthNowNs(), peer.toIPv4Address(), peerPort); // ArtSync, OpCode 0x5200
+        else if (m_pipeline.m_healthEnabled && ArtNet::isArtSync(bytes))
+            m_pipeline.m_health.addSync(healthNowNs(), peer.toIPv4Address(), peerPort);
     }
     if (!m_pipeline.m_journal.isEnabled())
         return;
