@@ -98,6 +98,7 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
     m_liveRepaintTimer.setInterval(20);
     m_liveRepaintTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_liveRepaintTimer, &QTimer::timeout, this, &MainWindow::onLiveRepaint);
+    connect(&m_healthTimer, &QTimer::timeout, this, &MainWindow::refreshHealth);
     m_broadcastStatusTimer.setInterval(1000);
     connect(&m_broadcastStatusTimer, &QTimer::timeout, this, &MainWindow::refreshBroadcastStatus);
 }
@@ -194,13 +195,15 @@ QWidget *MainWindow::buildRightArea()
     m_fitButton = new QPushButton(area);
     m_snapshotButton = new QPushButton(area);
     m_whiteCheck = new QCheckBox(area);
+    m_healthCheck = new QCheckBox(area);
+    m_healthCheck->setObjectName(QStringLiteral("healthOverlay"));
     m_axesCheck = new QCheckBox(area);
     m_fastDrawCheck = new QCheckBox(area);
     m_autoOrbitCheck = new QCheckBox(area);
     m_frontButton = new QPushButton(area);
     m_resetButton = new QPushButton(area);
     bar->addWidget(m_monitorHint, 1);
-    for (QWidget *w : std::initializer_list<QWidget *>{m_fitButton, m_snapshotButton, m_whiteCheck, m_axesCheck,
+    for (QWidget *w : std::initializer_list<QWidget *>{m_fitButton, m_snapshotButton, m_whiteCheck, m_healthCheck, m_axesCheck,
                                                        m_fastDrawCheck, m_autoOrbitCheck, m_frontButton,
                                                        m_resetButton})
         bar->addWidget(w);
@@ -210,7 +213,7 @@ QWidget *MainWindow::buildRightArea()
     m_monitorTabs->setObjectName(QStringLiteral("Monitor"));
     m_view2d = new LedMonitorView;
     m_view2d->setObjectName(QStringLiteral("LedMonitorView"));
-    m_view2d->setColours(&m_colours.colours());
+    m_view2d->setColours(&shownColours());
     m_view3d = new Led3DView;
     m_view3d->setObjectName(QStringLiteral("Led3DView"));
     m_monitorTabs->insertTab(0, m_view2d, QString());
@@ -225,6 +228,7 @@ void MainWindow::wireMonitorBar()
     connect(m_monitorTabs, &QTabWidget::currentChanged, this, &MainWindow::pushMonitor);
     connect(m_snapshotButton, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
     connect(m_whiteCheck, &QCheckBox::toggled, this, &MainWindow::onWhiteChannelsToggled);
+    connect(m_healthCheck, &QCheckBox::toggled, this, &MainWindow::setHealthOverlay);
     connect(m_axesCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
     connect(m_fastDrawCheck, &QCheckBox::toggled, this, &MainWindow::onFastDrawToggled);
     connect(m_autoOrbitCheck, &QCheckBox::toggled, this, [this](bool on) {
@@ -328,8 +332,9 @@ void MainWindow::onCellHovered(int pixelNumber)
         m_monitorHint->clear();
         return;
     }
-    m_monitorHint->setText(
-        PixelTexts::hoverHint(m_patch, m_layout, pixelNumber, m_colours.colours().at(pixelNumber)));
+    const QString hint = PixelTexts::hoverHint(m_patch, m_layout, pixelNumber, m_colours.colours().at(pixelNumber));
+    m_monitorHint->setText(m_healthCheck->isChecked() ? hint + QStringLiteral("  |  ") + healthHoverText(pixelNumber)
+                                                      : hint);
 }
 
 void MainWindow::onInspectedUniverseChanged(int portAddress)
@@ -381,6 +386,10 @@ void MainWindow::retranslateUi()
         tr("Add W / CW / WW channel values to the pixel colour.\n\nOff by default: MOX derives the white channels "
            "FROM rgb, so there is no single correct way back. This is a visibility aid - without it, white-only "
            "fixtures stay black even while they are receiving data."));
+    m_healthCheck->setText(tr("Health"));
+    m_healthCheck->setToolTip(tr("Paint every fixture in the health colour of its universe: ok, unstable, "
+                                 "conflict (several senders), stale (nothing for 4 s) or never received. "
+                                 "Hover a fixture for its universe's figures."));
     m_axesCheck->setText(tr("Axes"));
     m_axesCheck->setToolTip(tr("Show the red / green / blue X-Y-Z arrows at the origin."));
     m_fastDrawCheck->setText(tr("Fast draw"));
@@ -527,6 +536,7 @@ void MainWindow::onModeChanged()
     applySourceMode();
     if (m_recordedRadio->isChecked() && currentSourceFrames() > 0)
         showFrame(m_currentFrame);
+    refreshHealth();
 }
 
 void MainWindow::applySourceMode()

@@ -2,6 +2,7 @@
 
 #include "app/appsettings.h"
 #include "app/menutable.h"
+#include "live/healthoverlay.h"
 #include "monitor/pixelcolourbuffer.h"
 #include "packetlog/capturesession.h"
 #include "patch/patchdata.h"
@@ -42,6 +43,7 @@ class MoxStyle;
 class PatchBar;
 class PacketLogWindow;
 class NodeDiscoveryWindow;
+class UniverseHealthWindow;
 namespace ArtNet {
 class NodeDiscovery;
 }
@@ -60,7 +62,8 @@ class UpdateController;
 // status line, settings), mainwindowpatch.cpp (patch loading),
 // mainwindowplayback.cpp (recorded playback and the monitor bar),
 // mainwindowgps.cpp (GPS-Sync sets), mainwindowlive.cpp (live broadcast and
-// recording), mainwindowlog.cpp (the network log), mainwindowmenus.cpp
+// recording), mainwindowlog.cpp (the network log), mainwindowdiscovery.cpp
+// (node discovery), mainwindowhealth.cpp (network health), mainwindowmenus.cpp
 // (menus, recent lists, shortcuts, help, dropped files). GUI thread only.
 class MainWindow : public QMainWindow
 {
@@ -230,6 +233,19 @@ private:
     void startCapture(const QString &adapterName);
     void onCaptureStopped(const PacketLog::LogMessage &error);
 
+    // Network health (mainwindowhealth.cpp)
+    void setHealthOverlay(bool on);
+    void showUniverseHealth();
+    void refreshHealth();
+    void exportHealth();
+    // What the views show: the DMX colours, or the overlay's state colours.
+    const QVector<QRgb> &shownColours() const;
+    Health::StatePalette healthPalette() const;
+    // The loaded recording's or capture's analysis, made on first use; null
+    // (with *source saying why) when there is none.
+    const Health::Analyser *recordedHealth(QString *source);
+    QString healthHoverText(int pixelNumber) const;
+
     // Live (mainwindowlive.cpp)
     // The live pipeline, made on first use (listening or the network log).
     LivePipeline &ensureLive();
@@ -260,6 +276,7 @@ private:
     QPushButton *m_fitButton = nullptr;
     QPushButton *m_snapshotButton = nullptr;
     QCheckBox *m_whiteCheck = nullptr;
+    QCheckBox *m_healthCheck = nullptr;
     QCheckBox *m_axesCheck = nullptr;
     QCheckBox *m_fastDrawCheck = nullptr;
     QCheckBox *m_autoOrbitCheck = nullptr;
@@ -286,6 +303,16 @@ private:
     QVector<PacketLog::CaptureAdapter> m_captureAdapters;
     std::unique_ptr<QTemporaryDir> m_convertedCapture; // a capture opened as a recording, made into a .tpx
     UpdateController *m_updates = nullptr;
+
+    // Network health: the last figures, the overlay's colours, a file's analysis.
+    QPointer<UniverseHealthWindow> m_healthWindow;
+    QTimer m_healthTimer;
+    QVector<Health::UniverseHealth> m_health;
+    QVector<QRgb> m_healthColours;
+    std::unique_ptr<Health::Analyser> m_recordedHealth;
+    int m_recordedHealthFps = 0;
+    QString m_recordedHealthError;
+    QString m_recordingSourcePath; // the file opened, a capture before its conversion
 
     MoxStyle *m_style = nullptr;
     std::unique_ptr<MoxStyle> m_ownStyle;

@@ -25,6 +25,8 @@ LivePipeline &MainWindow::ensureLive()
         m_live = std::make_unique<LivePipeline>();
         connect(&m_live->node(), &ArtNetNode::statusChanged, this, &MainWindow::refreshBroadcastStatus);
         connect(m_live.get(), &LivePipeline::recordingFailed, this, &MainWindow::onRecordingFailed);
+        // The health overlay and table may be opened at any time and show the history.
+        m_live->setHealthEnabled(true);
     }
     return *m_live;
 }
@@ -52,7 +54,7 @@ void MainWindow::onBroadcastStart()
     showListeningStatus(address, port, int(universes.size()));
     m_dmxInspector->setUniverses(universes);
     clearLiveState();
-    m_view2d->setColours(&m_colours.colours());
+    m_view2d->setColours(&shownColours());
     m_live->takeDirty();
     m_liveRepaintTimer.start();
     m_broadcastStatusTimer.start();

@@ -6,6 +6,7 @@
 #include "app/updater.h"
 #include "i18n/translator.h"
 #include "live/livepipeline.h"
+#include "live/widgets/universehealthwindow.h"
 #include "monitor/widgets/led3dview.h"
 #include "monitor/widgets/ledmonitorview.h"
 #include "panels/gpsplaybackpanel.h"
@@ -199,6 +200,13 @@ void MainWindow::buildMenus()
     QAction *white = m_menus.addEntry(view, QT_TR_NOOP("White Channels"), QKeySequence());
     white->setCheckable(true);
     connect(white, &QAction::triggered, this, [this] { m_whiteCheck->click(); });
+    QAction *health = m_menus.addEntry(view, QT_TR_NOOP("Health Overlay"), QKeySequence(QStringLiteral("Ctrl+H")),
+                                       QT_TR_NOOP("Paint every fixture in the health colour of its universe."));
+    health->setCheckable(true);
+    connect(health, &QAction::triggered, this, [this] { m_healthCheck->click(); });
+    connect(m_menus.addEntry(view, QT_TR_NOOP("Universe Health..."), QKeySequence(QStringLiteral("Ctrl+Shift+H")),
+                             QT_TR_NOOP("Per universe and sender: rate, lost and late packets, conflicts, ArtSync.")),
+            &QAction::triggered, this, &MainWindow::showUniverseHealth);
     QAction *fullScreen =
         m_menus.addEntry(view, QT_TR_NOOP("Full Screen"), QKeySequence(QStringLiteral("F11")));
     fullScreen->setCheckable(true);
@@ -295,7 +303,7 @@ void MainWindow::buildMenus()
     for (QMenu *menu : menuBar()->findChildren<QMenu *>())
         connect(menu, &QMenu::aboutToShow, this, &MainWindow::syncMenuChecks);
     // The boxes change the state the entries mirror; keyboard users see it without opening a menu.
-    for (QCheckBox *box : {m_whiteCheck, m_axesCheck, m_fastDrawCheck, m_autoOrbitCheck})
+    for (QCheckBox *box : {m_whiteCheck, m_healthCheck, m_axesCheck, m_fastDrawCheck, m_autoOrbitCheck})
         connect(box, &QCheckBox::toggled, this, &MainWindow::syncMenuChecks);
     connect(m_monitorTabs, &QTabWidget::currentChanged, this, &MainWindow::syncMenuChecks);
     connect(m_playbackTabs, &QTabWidget::currentChanged, this, &MainWindow::syncMenuChecks);
@@ -325,6 +333,7 @@ void MainWindow::syncMenuChecks()
     check("Fast Draw", m_fastDrawCheck->isChecked());
     check("Auto Orbit", m_autoOrbitCheck->isChecked());
     check("White Channels", m_whiteCheck->isChecked());
+    check("Health Overlay", m_healthCheck->isChecked());
     check("Full Screen", isFullScreen());
     check("Loop", m_playbackTabs->currentIndex() == GpsTab ? m_gpsPanel->loop() : m_playbackPanel->loop());
     check("Standard Art-Net", m_playbackTabs->currentIndex() == StandardTab);
@@ -487,6 +496,9 @@ void MainWindow::applyTheme(const QString &id)
     m_style->install(*qApp);
     const QString applied = m_style->currentThemeId();
     openSettings()->setValue(SettingsKey::theme, applied);
+    if (m_healthWindow)
+        m_healthWindow->setPalette(healthPalette());
+    refreshHealth();
     showStatus([applied] { return tr("Interface theme: %1").arg(MoxStyle::themeDisplayName(applied)); },
                4000);
 }

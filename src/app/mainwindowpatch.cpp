@@ -105,7 +105,8 @@ void MainWindow::onUploadRequested(const QString &path)
     setPatchLoaded(true);
     m_colours.setPatch(&m_layout.pixels);
     m_view2d->setPatch(&m_patch, &m_layout);
-    m_view2d->setColours(&m_colours.colours());
+    refreshHealth(); // the overlay's colours for the new pixels
+    m_view2d->setColours(&shownColours());
     m_view3d->setPatch(m_layout);
     m_dmxInspector->setPixelLayout(&m_layout);
     if (!m_recording->isLoaded())

@@ -222,6 +222,9 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
         capturePackets = converted.dmxPackets;
     }
     const RecordingLoadResult result = m_recording->load(loadPath, m_patchLoaded ? &m_patch : nullptr);
+    m_recordedHealth.reset();
+    m_recordingSourcePath = path;
+    refreshHealth();
     m_playbackPanel->setFrameCount(m_recording->frameCount());
     if (!result.ok) {
         // The reader keeps nothing of a file it refused: there is no recording now.

@@ -1,14 +1,10 @@
 #include "cli/healthcommand.h"
 
-#include "artnet/artnetwire.h"
 #include "cli/clicommon.h"
-#include "live/healthanalyser.h"
+#include "live/healthfile.h"
 #include "live/livepipeline.h"
-#include "packetlog/capturereader.h"
 #include "patch/patchloader.h"
-#include "recording/recording.h"
 
-#include <QFile>
 #include <QHostAddress>
 #include <QJsonArray>
 
@@ -108,42 +104,13 @@ int runHealthCommand(const QStringList &arguments)
         patched = LivePipeline::advertisedUniverses(loaded.patch);
     }
 
-    const QString path = parser.positionalArguments().constFirst();
-    Health::Analyser analyser;
-    if (PacketLog::isCaptureFile(path)) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return refuse(QStringLiteral("Cannot open %1: %2").arg(path, file.errorString()));
-        const QByteArray bytes = file.readAll();
-        const PacketLog::LogLoadResult read = PacketLog::visitCapture(
-            bytes, [&analyser](const PacketLog::PacketRecord &r, QByteArrayView payload) {
-                if (r.dstPort != ArtNet::kDefaultPort || !r.isArtNet())
-                    return;
-                if (r.opcode == ArtNet::kOpSync) {
-                    analyser.addSync(r.timeNs, r.srcIp, r.srcPort);
-                    return;
-                }
-                const ArtNet::ClassifiedDatagram c = ArtNet::classifyDatagram(payload);
-                if (c.kind == ArtNet::DatagramKind::Dmx)
-                    analyser.addDmx(r.timeNs, r.srcIp, r.srcPort, c.portAddress, c.sequence, c.dataLength);
-            });
-        if (!read.ok)
-            return refuse(read.error.untranslatedText());
-        if (!asJson)
-            for (const PacketLog::LogMessage &w : read.warnings)
-                printErr(QStringLiteral("warning: ") + w.untranslatedText());
-    } else {
-        Recording recording;
-        const RecordingLoadResult loaded = recording.load(path, nullptr, true);
-        if (!loaded.ok)
-            return refuse(loaded.error.untranslatedText());
-        for (qint64 frame = 0; frame < recording.frameCount(); ++frame) {
-            for (const RecordRef &r : recording.frameRecords(frame))
-                if (!r.isNull())
-                    analyser.addDmx(frame * 1'000'000'000LL / frameRate, 0, 0, r.universe, 0, r.length);
-        }
-    }
-
+    const Health::FileHealth analysed = Health::analyseFile(parser.positionalArguments().constFirst(), frameRate);
+    if (!analysed.ok)
+        return refuse(analysed.untranslatedError);
+    if (!asJson)
+        for (const QString &w : analysed.warnings)
+            printErr(QStringLiteral("warning: ") + w);
+    const Health::Analyser &analyser = analysed.analyser;
     const QVector<Health::UniverseHealth> universes = analyser.universes(analyser.lastTimeNs(), patched);
     const Health::SyncHealth sync = analyser.sync();
     if (asJson) {

@@ -1,7 +1,8 @@
 #include "live/healthanalyser.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
-#include <map>
 
 namespace Health {
 
@@ -36,30 +37,56 @@ int step(int number, int by)
 
 } // namespace
 
+namespace {
+
+struct Definition
+{
+    const char *counter;
+    const char *text;
+};
+
+const Definition kDefinitions[] = {
+    {"packets", QT_TRANSLATE_NOOP("Health", "ArtDmx packets received for this universe.")},
+    {"fps", QT_TRANSLATE_NOOP("Health", "Packets per second: over the last second live, over the whole file "
+                                        "otherwise.")},
+    {"lost", QT_TRANSLATE_NOOP("Health", "Sequence numbers skipped by forward jumps (shorter than half the 1-255 "
+                                         "cycle, across the wrap from 255 to 1), less those that arrived late: a "
+                                         "swapped pair loses nothing.")},
+    {"outOfOrder", QT_TRANSLATE_NOOP("Health", "Packets that arrived behind the highest sequence number seen so far "
+                                               "(a backward step shorter than half the cycle).")},
+    {"duplicates", QT_TRANSLATE_NOOP("Health", "Packets repeating the highest sequence number seen so far.")},
+    {"lengthChanges", QT_TRANSLATE_NOOP("Health", "Times the data length changed from one packet to the next.")},
+    {"lastSeenMs", QT_TRANSLATE_NOOP("Health", "Milliseconds since the last packet.")},
+    {"intervals", QT_TRANSLATE_NOOP("Health", "The shortest, median and longest time between two packets, in ms "
+                                              "(the median of the latest 64).")},
+    {"syncMissed", QT_TRANSLATE_NOOP("Health", "ArtSync periods in which the universe came twice or not at all (a "
+                                               "torn frame).")},
+    {"state", QT_TRANSLATE_NOOP("Health", "never: patched, nothing received; stale: nothing for more than 4 s; "
+                                          "conflict: two or more senders; unstable: over 1 % of packets lost, out "
+                                          "of order or repeated, or a longest interval over 4 times the median and "
+                                          "over 100 ms; ok: none of these.")},
+};
+
+const char *definitionSource(const QString &counter)
+{
+    for (const Definition &d : kDefinitions)
+        if (counter == QLatin1String(d.counter))
+            return d.text;
+    return nullptr;
+}
+
+} // namespace
+
 QString definition(const QString &counter)
 {
-    static const std::map<QString, QString> kDefinitions = {
-        {QStringLiteral("packets"), QStringLiteral("ArtDmx packets received for this universe.")},
-        {QStringLiteral("fps"), QStringLiteral("Packets per second: over the last second live, over the whole file "
-                                               "otherwise.")},
-        {QStringLiteral("lost"),
-         QStringLiteral("Sequence numbers skipped by forward jumps (shorter than half the 1-255 cycle, across the wrap "
-                        "from 255 to 1), less those that arrived late: a swapped pair loses nothing.")},
-        {QStringLiteral("outOfOrder"),
-         QStringLiteral("Packets that arrived behind the highest sequence number seen so far (a backward step "
-                        "shorter than half the cycle).")},
-        {QStringLiteral("duplicates"), QStringLiteral("Packets repeating the highest sequence number seen so far.")},
-        {QStringLiteral("lengthChanges"), QStringLiteral("Times the data length changed from one packet to the next.")},
-        {QStringLiteral("lastSeenMs"), QStringLiteral("Milliseconds since the last packet.")},
-        {QStringLiteral("syncMissed"),
-         QStringLiteral("ArtSync periods in which the universe came twice or not at all (a torn frame).")},
-        {QStringLiteral("state"),
-         QStringLiteral("never: patched, nothing received; stale: nothing for more than 4 s; conflict: two or more "
-                        "senders; unstable: over 1 % of packets lost, out of order or repeated, or a longest "
-                        "interval over 4 times the median and over 100 ms; ok: none of these.")},
-    };
-    const auto it = kDefinitions.find(counter);
-    return it == kDefinitions.end() ? QString() : it->second;
+    const char *text = definitionSource(counter);
+    return text ? QString::fromLatin1(text) : QString();
+}
+
+QString translatedDefinition(const QString &counter)
+{
+    const char *text = definitionSource(counter);
+    return text ? QCoreApplication::translate("Health", text) : QString();
 }
 
 void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 portAddress, quint8 sequence,

@@ -62,9 +62,11 @@ struct SyncHealth
 };
 
 // The definition of a counter ("packets", "fps", "lost", "outOfOrder",
-// "duplicates", "lengthChanges", "lastSeenMs", "syncMissed", "state"), as
-// tooltips and talu-cli show it. English.
+// "duplicates", "lengthChanges", "lastSeenMs", "intervals", "syncMissed",
+// "state"), in English as talu-cli shows it; empty for an unknown counter.
 QString definition(const QString &counter);
+// The same in the user's language, for tooltips.
+QString translatedDefinition(const QString &counter);
 
 class Analyser
 {

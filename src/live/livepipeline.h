@@ -47,6 +47,7 @@ public:
     // live; off until someone reads it (talu-cli listen).
     const Health::Analyser &health() const { return m_health; }
     void setHealthEnabled(bool on) { m_healthEnabled = on; }
+    void resetHealth() { m_health.reset(); }
     static qint64 healthNowNs();
     // Every ArtPollReply the node receives (it drops them itself), for a node
     // discovery that must not open a second socket on the node's port. Empty: none.

@@ -20,7 +20,8 @@ struct NamedColour
 };
 
 // Every theme names every role below; the contrast test holds each text role
-// against the backgrounds it is drawn on (at least 4.5 : 1).
+// against the backgrounds it is drawn on (at least 4.5 : 1). The health roles
+// paint fixtures on the dark monitor, told apart by hue; "never fed" is dim.
 //
 // The monitor is dark so that lit pixels read as they do on site; the dark
 // theme keeps the rest of the window out of the way of that.
@@ -29,6 +30,8 @@ constexpr NamedColour kDark[] = {
     {"button", "#2b3036"},   {"accent", "#f08220"}, {"border", "#3a4047"},  {"info", "#9fd4a3"},
     {"warning", "#f2c14e"},  {"error", "#ff6b6b"},  {"highlight", "#3d6ea8"}, {"success", "#6fcf73"},
     {"hint", "#b8c4d0"},     {"disabledText", "#6b737c"}, {"highlightedText", "#ffffff"},
+    {"healthOk", "#3fbf5a"}, {"healthUnstable", "#f2c14e"}, {"healthConflict", "#c77dff"}, {"healthStale", "#ff4040"},
+    {"healthNever", "#59626c"},
 };
 // Daylight and offices.
 constexpr NamedColour kLight[] = {
@@ -36,6 +39,8 @@ constexpr NamedColour kLight[] = {
     {"button", "#e1e4e8"},   {"accent", "#a84f00"}, {"border", "#b8bfc7"},  {"info", "#256b29"},
     {"warning", "#855c00"},  {"error", "#b71c1c"},  {"highlight", "#3d6ea8"}, {"success", "#256b29"},
     {"hint", "#3b4650"},     {"disabledText", "#9aa1a8"}, {"highlightedText", "#ffffff"},
+    {"healthOk", "#2e9e45"}, {"healthUnstable", "#e0a800"}, {"healthConflict", "#9b4dca"}, {"healthStale", "#e53935"},
+    {"healthNever", "#7d868f"},
 };
 // For low vision and glaring screens: white and pure colours on black.
 constexpr NamedColour kHighContrast[] = {
@@ -43,6 +48,8 @@ constexpr NamedColour kHighContrast[] = {
     {"button", "#1a1a1a"},   {"accent", "#ffd400"}, {"border", "#ffffff"},  {"info", "#7dff7d"},
     {"warning", "#ffd400"},  {"error", "#ff7070"},  {"highlight", "#1a5fff"}, {"success", "#7dff7d"},
     {"hint", "#ffffff"},     {"disabledText", "#a0a0a0"}, {"highlightedText", "#ffffff"},
+    {"healthOk", "#00ff00"}, {"healthUnstable", "#ffff00"}, {"healthConflict", "#ff00ff"}, {"healthStale", "#ff0000"},
+    {"healthNever", "#808080"},
 };
 // For dark venues: nothing but dim reds and ambers, so the screen neither
 // lights the room nor spoils the crew's night vision during a show.
@@ -51,6 +58,8 @@ constexpr NamedColour kDimRed[] = {
     {"button", "#2a0d0a"},   {"accent", "#ff7043"}, {"border", "#4a1a14"},  {"info", "#d08050"},
     {"warning", "#e09040"},  {"error", "#ff5050"},  {"highlight", "#5a1a12"}, {"success", "#c09048"},
     {"hint", "#d87060"},     {"disabledText", "#7a3328"}, {"highlightedText", "#ffb0a0"},
+    {"healthOk", "#6a2a18"}, {"healthUnstable", "#d08030"}, {"healthConflict", "#ff9060"}, {"healthStale", "#ff2020"},
+    {"healthNever", "#2e1410"},
 };
 
 struct Theme

@@ -19,10 +19,14 @@
 #include <QUdpSocket>
 
 #include "artnet/widgets/nodediscoverywindow.h"
+#include "live/widgets/universehealthwindow.h"
+#include "monitor/widgets/ledcanvasitem.h"
+#include "monitor/widgets/ledmonitorview.h"
+#include "style/moxstyle.h"
 #include "packetlog/widgets/packetlistmodel.h"
 #include "packetlog/widgets/packetlogwindow.h"
 
-#include <QComboBox>
+#include <QTreeView>
 #include <QTreeWidget>
 
 using namespace WindowDriver;
@@ -59,6 +63,7 @@ private slots:
     void portInUseIsReported();
     void recordingRefusals();
     void nodeDiscoveryFindsTheWindowsOwnNode();
+    void healthOverlayAndTableFollowTheNode();
 };
 
 void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
@@ -223,6 +228,57 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     QTest::mouseClick(scan, Qt::LeftButton);
     QCOMPARE(scan->text(), QStringLiteral("Scan"));
     QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(), QStringLiteral("Stopped."));
+}
+
+void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
+{
+    MainWindow w;
+    w.show();
+    uploadPatch(w);
+    startListening(w);
+    // Universe 0 loses one packet of six; universe 1 comes from two senders.
+    QUdpSocket controller, second;
+    QVERIFY(controller.bind(kControllerAddress, 0) && second.bind(kControllerAddress, 0));
+    const QByteArray data(512, '\x40');
+    for (const quint8 seq : {1, 2, 4, 5, 6})
+        controller.writeDatagram(ArtNet::buildDmx(0x0000, seq, data), kNodeAddress, kPort);
+    controller.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
+    second.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
+    QTRY_COMPARE(w.livePipeline()->packetsApplied(), qint64(7));
+
+    click(&w, QStringLiteral("Health"));
+    QVERIFY(w.menuAction("Health Overlay")->isChecked());
+    auto *view = w.findChild<LedMonitorView *>();
+    const auto shownColourOf = [&](quint16 universe) {
+        return view->canvas()->colours().at(w.pixelLayout().pixelsForPortAddress(universe).at(0));
+    };
+    const MoxStyle theme; // the window's own default theme
+    QCOMPARE(shownColourOf(0), theme.colour(QStringLiteral("healthUnstable")).rgba());
+    QCOMPARE(shownColourOf(1), theme.colour(QStringLiteral("healthConflict")).rgba());
+    QCOMPARE(shownColourOf(2), theme.colour(QStringLiteral("healthNever")).rgba());
+    // Hovering a fixture adds its universe's figures to the hint line.
+    emit view->cellHovered(w.pixelLayout().pixelsForPortAddress(0).at(0));
+    const QString figures = w.findChild<QLabel *>(QStringLiteral("monitorHint"))->text().section(QStringLiteral("  |  "), 1);
+    QVERIFY2(figures.startsWith(QStringLiteral("unstable · 1 sender(s) · ")) &&
+                 figures.contains(QStringLiteral(" fps · 1 lost · 0 out of order · 0 duplicates · last ")),
+             qPrintable(figures));
+
+    w.menuAction("Universe Health...")->trigger();
+    auto *health = w.findChild<UniverseHealthWindow *>();
+    QVERIFY(health && health->isVisible());
+    const auto label = [health](const char *name) { return health->findChild<QLabel *>(QLatin1String(name))->text(); };
+    QCOMPARE(label("healthSource"), QStringLiteral("Live: the node on 192.0.2.1:%1, fps over the last second.").arg(kPort));
+    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 13 never · 1 conflict · 1 unstable"));
+    QCOMPARE(label("healthSync"), QStringLiteral("No ArtSync seen."));
+    const QAbstractItemModel *table = health->table()->model();
+    QCOMPARE(table->index(1, UniverseHealthModel::StateColumn).data().toString(), QStringLiteral("conflict"));
+    QCOMPARE(table->rowCount(table->index(1, 0)), 2);
+    click(health, QStringLiteral("Reset"));
+    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 15 never"));
+
+    // Off again, the monitor shows the DMX colours.
+    click(&w, QStringLiteral("Health"));
+    QCOMPARE(&view->canvas()->colours(), &w.colourBuffer().colours());
 }
 
 QTEST_MAIN(TestMainWindowLive)

@@ -1,5 +1,8 @@
-// The health counters on crafted streams, each checked exactly.
+// The health counters on crafted streams, each checked exactly; the table
+// model and the overlay over them.
 #include "live/healthanalyser.h"
+#include "live/universehealthmodel.h"
+#include "patch/pixellayout.h"
 
 #include <QtTest>
 
@@ -115,6 +118,60 @@ private slots:
         QCOMPARE(live.universes(2225'000'000LL).at(0).fps, 40.0);
         QCOMPARE(live.sync().seen, false);
         QVERIFY(!Health::definition(QStringLiteral("lost")).isEmpty());
+    }
+
+    void tableAndOverlay()
+    {
+        // Universe 0 from one sender, 1 from two (a conflict), 3 patched and never sent.
+        Health::Analyser analyser;
+        feed(analyser, QStringLiteral("0 1 0 1 512; 25 1 0 2 512; 50 1 0 3 512; 0 1 1 1 512; 5 2 1 1 512"));
+        const QVector<Health::UniverseHealth> universes = analyser.universes(50'000'000, {0, 1, 3});
+        Health::StatePalette palette;
+        palette.colours = {0xFF000001, 0xFF000002, 0xFF000003, 0xFF000004, 0xFF000005}; // in State order
+        UniverseHealthModel model;
+        model.setPalette(palette);
+        model.setUniverses(universes);
+        const auto text = [&model](int row, int column, const QModelIndex &parent = {}) {
+            return model.data(model.index(row, column, parent)).toString();
+        };
+        QCOMPARE(model.rowCount(), 3);
+        QCOMPARE(QStringList({text(0, 0), text(0, 1), text(0, 2), text(0, 9), text(0, 10)}),
+                 QStringList({"0x0000", "ok", "3", "0.0 s ago", "25.0 / 25.0 / 25.0"}));
+        QCOMPARE(QStringList({text(1, 1), text(2, 0), text(2, 1), text(2, 3)}),
+                 QStringList({"conflict", "0x0003", "never", ""}));
+        QCOMPARE(model.data(model.index(1, UniverseHealthModel::StateColumn), Qt::DecorationRole).value<QColor>(),
+                 QColor::fromRgb(0xFF000003));
+        QCOMPARE(model.headerData(UniverseHealthModel::LostColumn, Qt::Horizontal, Qt::ToolTipRole).toString(),
+                 Health::definition(QStringLiteral("lost")));
+        QCOMPARE(model.rowCount(model.index(1, 0)), 2);
+        QCOMPARE(text(1, 0, model.index(1, 0)), QStringLiteral("10.0.0.2:6454"));
+
+        // Sorting and refreshing keep a sender's row on its sender; only a new sender resets.
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        const QPersistentModelIndex sender(model.index(1, 0, model.index(1, 0)));
+        model.sort(UniverseHealthModel::StateColumn, Qt::AscendingOrder); // never, conflict, ok
+        QCOMPARE(QStringList({text(0, 0), text(1, 0), text(2, 0)}), QStringList({"0x0003", "0x0001", "0x0000"}));
+        model.setUniverses(universes);
+        QCOMPARE(sender.parent().row(), 1);
+        QCOMPARE(sender.data().toString(), QStringLiteral("10.0.0.2:6454"));
+        QCOMPARE(resets.count(), 0);
+        feed(analyser, QStringLiteral("50 3 0 1 512"));
+        model.setUniverses(analyser.universes(50'000'000, {0, 1, 3}));
+        QCOMPARE(resets.count(), 1);
+
+        QCOMPARE(UniverseHealthModel::csv(universes).split('\n').mid(0, 3),
+                 QByteArrayList({"portAddress,state,sender,packets,fps,lost,outOfOrder,duplicates,syncMissed,"
+                                 "lengthChanges,lastSeenMs,minIntervalMs,medianIntervalMs,maxIntervalMs\r",
+                                 "0x0000,ok,,3,40.0,0,0,0,0,0,0,,,\r",
+                                 "0x0000,,10.0.0.1:6454,3,40.0,0,0,0,,0,0,25.0,25.0,25.0\r"}));
+
+        // Each pixel in its universe's colour; a universe nobody reported counts as never fed.
+        TPatch::PixelLayout layout;
+        layout.pixels.resize(3);
+        layout.portAddressPixels = {{0, {0}}, {1, {1}}, {9, {2}}};
+        QVector<QRgb> colours;
+        Health::paintStates(layout, universes, palette, &colours);
+        QCOMPARE(colours, QVector<QRgb>({0xFF000005, 0xFF000003, 0xFF000001}));
     }
 };
 

@@ -1,0 +1,184 @@
+// MainWindow: network health. The overlay paints every fixture in its
+// universe's state colour and the "Universe health" window lists the figures.
+// Both follow the live node in Live broadcast, otherwise the recording or
+// capture loaded for Standard Art-Net playback, analysed once over the whole
+// file; a timer refreshes them twice a second while either is on show.
+#include "app/mainwindow.h"
+
+#include "live/healthfile.h"
+#include "live/livepipeline.h"
+#include "live/widgets/universehealthwindow.h"
+#include "monitor/pixeltexts.h"
+#include "monitor/widgets/ledmonitorview.h"
+#include "packetlog/capturereader.h"
+#include "panels/playbackpanel.h"
+#include "recording/recording.h"
+#include "style/moxstyle.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHostAddress>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QTabWidget>
+
+namespace {
+
+constexpr int kHealthRefreshMs = 500;
+
+} // namespace
+
+const QVector<QRgb> &MainWindow::shownColours() const
+{
+    return m_healthCheck->isChecked() ? m_healthColours : m_colours.colours();
+}
+
+Health::StatePalette MainWindow::healthPalette() const
+{
+    // In the order of Health::State.
+    static const char *const kRoles[Health::kStateCount] = {"healthNever", "healthStale", "healthConflict",
+                                                             "healthUnstable", "healthOk"};
+    Health::StatePalette palette;
+    for (int i = 0; i < Health::kStateCount; ++i)
+        palette.colours[size_t(i)] = m_style->colour(QLatin1String(kRoles[i])).rgba();
+    return palette;
+}
+
+void MainWindow::setHealthOverlay(bool on)
+{
+    if (on)
+        refreshHealth();
+    m_view2d->setColours(&shownColours());
+    pushMonitor();
+    onCellHovered(m_view2d->hoveredPixel());
+    if (on && !m_healthTimer.isActive())
+        m_healthTimer.start(kHealthRefreshMs);
+}
+
+void MainWindow::showUniverseHealth()
+{
+    if (!m_healthWindow) {
+        m_healthWindow = new UniverseHealthWindow(this);
+        connect(m_healthWindow, &UniverseHealthWindow::resetRequested, this, [this] {
+            if (m_live)
+                m_live->resetHealth();
+            refreshHealth();
+        });
+        connect(m_healthWindow, &UniverseHealthWindow::exportRequested, this, &MainWindow::exportHealth);
+    }
+    m_healthWindow->setPalette(healthPalette());
+    m_healthWindow->show();
+    m_healthWindow->raise();
+    m_healthWindow->activateWindow();
+    refreshHealth();
+    if (!m_healthTimer.isActive())
+        m_healthTimer.start(kHealthRefreshMs);
+}
+
+const Health::Analyser *MainWindow::recordedHealth(QString *source)
+{
+    if (isGpsTab()) {
+        *source = tr("A GPS-Sync set is not analysed: the table follows the live node or a Standard Art-Net "
+                     "recording.");
+        return nullptr;
+    }
+    if (!m_recording->isLoaded()) {
+        *source = tr("No recording loaded: open a recording or a capture, or listen live.");
+        return nullptr;
+    }
+    const QString path = m_recordingSourcePath;
+    const int fps = m_playbackPanel->fps();
+    // Analysed once per file and frame rate: a capture from its packets, with
+    // senders and sequence numbers; a recording from its frames.
+    if (!m_recordedHealth || m_recordedHealthFps != fps) {
+        m_recordedHealthFps = fps;
+        m_recordedHealthError.clear();
+        if (PacketLog::isCaptureFile(path)) {
+            Health::FileHealth analysed = Health::analyseFile(path, fps);
+            m_recordedHealthError = analysed.error;
+            m_recordedHealth = std::make_unique<Health::Analyser>(std::move(analysed.analyser));
+        } else {
+            m_recordedHealth = std::make_unique<Health::Analyser>();
+            Health::analyseRecording(*m_recording, fps, m_recordedHealth.get());
+        }
+    }
+    const QString name = QFileInfo(path).fileName();
+    *source = m_recordedHealthError.isEmpty()
+                  ? (PacketLog::isCaptureFile(path)
+                         ? tr("Capture %1, over the whole file.").arg(name)
+                         : tr("Recording %1 at %2 fps, over the whole file (a recording keeps no senders or "
+                              "sequence numbers).")
+                               .arg(name)
+                               .arg(fps))
+                  : tr("Capture %1 could not be read: %2").arg(name, m_recordedHealthError);
+    return m_recordedHealth.get();
+}
+
+void MainWindow::refreshHealth()
+{
+    const bool windowShown = m_healthWindow && m_healthWindow->isVisible();
+    if (!m_healthCheck->isChecked() && !windowShown) {
+        m_healthTimer.stop();
+        return;
+    }
+    const QVector<quint16> patched = m_patchLoaded ? advertisedUniverses() : QVector<quint16>();
+    const bool live = m_liveRadio->isChecked();
+    QString source;
+    const Health::Analyser *analyser = nullptr;
+    qint64 nowNs = 0;
+    if (live) {
+        const bool listening = m_live && m_live->node().isRunning();
+        const QHostAddress bound = listening ? m_live->node().bindAddress() : QHostAddress();
+        source = listening ? tr("Live: the node on %1:%2, fps over the last second.")
+                                 .arg(bound.isNull() ? QStringLiteral("0.0.0.0") : bound.toString())
+                                 .arg(m_live->node().port())
+                           : tr("Live: the node is not listening.");
+        if (m_live) {
+            analyser = &m_live->health();
+            nowNs = LivePipeline::healthNowNs();
+        }
+    } else {
+        analyser = recordedHealth(&source);
+        nowNs = analyser ? analyser->lastTimeNs() : 0;
+    }
+    const Health::Analyser none;
+    m_health = (analyser ? *analyser : none).universes(nowNs, patched);
+    if (m_healthCheck->isChecked()) {
+        Health::paintStates(m_layout, m_health, healthPalette(), &m_healthColours);
+        pushMonitor();
+        if (m_view2d->hoveredPixel() >= 0)
+            onCellHovered(m_view2d->hoveredPixel());
+    }
+    if (windowShown)
+        m_healthWindow->showHealth(m_health, analyser ? analyser->sync() : Health::SyncHealth(), source, live);
+}
+
+QString MainWindow::healthHoverText(int pixelNumber) const
+{
+    const quint16 portAddress = m_layout.pixels.at(pixelNumber).portAddress;
+    const Health::UniverseHealth *universe = Health::findUniverse(m_health, portAddress);
+    return universe ? Health::figuresText(*universe) : Health::stateDisplayName(QStringLiteral("never"));
+}
+
+void MainWindow::exportHealth()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        m_healthWindow, tr("Export Universe Health"),
+        QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(QStringLiteral("health.csv")),
+        tr("CSV table (*.csv)"));
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const QByteArray csv = UniverseHealthModel::csv(m_health);
+    if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
+        QMessageBox::warning(m_healthWindow, tr("Export Universe Health"),
+                             tr("Could not write %1: %2").arg(path, file.errorString()));
+        return;
+    }
+    showStatus([path] { return tr("Universe health exported to %1.").arg(path); }, 5000);
+}

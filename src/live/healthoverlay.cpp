@@ -1,0 +1,80 @@
+#include "live/healthoverlay.h"
+
+#include "patch/pixellayout.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace Health {
+
+namespace {
+
+struct StateWord
+{
+    State state;
+    const char *word; // as the analyser and talu-cli write it
+};
+
+constexpr StateWord kWords[] = {
+    {State::Never, QT_TRANSLATE_NOOP("Health", "never")},
+    {State::Stale, QT_TRANSLATE_NOOP("Health", "stale")},
+    {State::Conflict, QT_TRANSLATE_NOOP("Health", "conflict")},
+    {State::Unstable, QT_TRANSLATE_NOOP("Health", "unstable")},
+    {State::Ok, QT_TRANSLATE_NOOP("Health", "ok")},
+};
+
+} // namespace
+
+State stateOf(const QString &word)
+{
+    for (const StateWord &w : kWords)
+        if (word == QLatin1String(w.word))
+            return w.state;
+    return State::Never;
+}
+
+QString stateDisplayName(const QString &word)
+{
+    for (const StateWord &w : kWords)
+        if (word == QLatin1String(w.word))
+            return QCoreApplication::translate("Health", w.word);
+    return word;
+}
+
+const UniverseHealth *findUniverse(const QVector<UniverseHealth> &universes, quint16 portAddress)
+{
+    const auto it = std::lower_bound(universes.begin(), universes.end(), portAddress,
+                                     [](const UniverseHealth &u, quint16 p) { return u.portAddress < p; });
+    return it != universes.end() && it->portAddress == portAddress ? &*it : nullptr;
+}
+
+void paintStates(const TPatch::PixelLayout &layout, const QVector<UniverseHealth> &universes,
+                 const StatePalette &palette, QVector<QRgb> *colours)
+{
+    colours->fill(palette.colours[size_t(State::Never)], layout.pixels.size());
+    for (const UniverseHealth &u : universes) {
+        const QRgb colour = palette.colourOf(u.state);
+        for (const int pixel : layout.pixelsForPortAddress(u.portAddress))
+            (*colours)[pixel] = colour;
+    }
+}
+
+QString figuresText(const UniverseHealth &u)
+{
+    const auto tr = [](const char *text, int n = -1) { return QCoreApplication::translate("Health", text, nullptr, n); };
+    if (u.state == QLatin1String("never"))
+        return stateDisplayName(u.state) + tr(" · nothing received");
+    qint64 lastSeenMs = -1;
+    for (const SourceHealth &s : u.sources)
+        lastSeenMs = lastSeenMs < 0 ? s.lastSeenMs : std::min(lastSeenMs, s.lastSeenMs);
+    return tr("%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago", int(u.sources.size()))
+        .arg(stateDisplayName(u.state))
+        .arg(u.fps, 0, 'f', 1)
+        .arg(u.lost)
+        .arg(u.outOfOrder)
+        .arg(u.duplicates)
+        .arg(double(std::max<qint64>(0, lastSeenMs)) / 1000.0, 0, 'f', 1);
+}
+
+} // namespace Health
