@@ -7,8 +7,10 @@
 // packets/s without loss with at least 25 repaints a second; goal 180,000.
 //
 // Inside the private namespace only (the node broadcasts):
-//   QT_QPA_PLATFORM=offscreen scripts/netns build/bench/bench/bench_window_live [seconds] [rate,rate,...] [--log]
-// With --log the Network Log window is open and follows the stream.
+//   QT_QPA_PLATFORM=offscreen scripts/netns build/bench/bench/bench_window_live [seconds] [rate,rate,...] [--log] [--health]
+// With --log the Network Log window is open and follows the stream; with
+// --health the health overlay paints the monitor and the Universe Health
+// window follows the node.
 #include "app/mainwindow.h"
 #include "artdmxflood.h"
 #include "artnet/widgets/broadcastpanel.h"
@@ -61,6 +63,7 @@ int main(int argc, char **argv)
     QStandardPaths::setTestModeEnabled(true); // never the user's settings
     QStringList args = QCoreApplication::arguments();
     const bool withLog = args.removeAll(QStringLiteral("--log")) > 0;
+    const bool withHealth = args.removeAll(QStringLiteral("--health")) > 0;
     const double seconds = args.value(1, QStringLiteral("5")).toDouble();
     QList<double> rates;
     for (const QString &r : args.value(2, QStringLiteral("100000,150000,180000")).split(QLatin1Char(',')))
@@ -99,6 +102,12 @@ int main(int argc, char **argv)
     if (withLog) {
         w.menuAction("Network Log...")->trigger();
         std::printf("with the Network Log window open\n");
+    }
+    if (withHealth) {
+        button(&w, "Health")->click();
+        w.menuAction("Universe Health...")->trigger();
+        std::printf("with the health overlay and the Universe Health window (the monitor follows the health\n"
+                    "figures, twice a second: repaints/s does not apply)\n");
     }
 
     // The longest gap between ticks of a 5 ms timer: how long the loop was away.

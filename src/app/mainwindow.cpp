@@ -303,11 +303,16 @@ void MainWindow::pushMonitor()
     // Only the view on show: mapping a large patch's colours into the hidden
     // 3D model costs as much as painting, and a tab change brings it up to date.
     if (m_monitorTabs->currentIndex() == View3DTab) {
-        m_view3d->setColours(m_colours.colours());
+        m_view3d->setColours(shownColours());
         m_view3d->setKinetics(m_colours.kineticValues());
     } else {
         m_view2d->refresh();
     }
+    pushInspector();
+}
+
+void MainWindow::pushInspector()
+{
     m_dmxInspector->setUniverseData(m_inspectedUniverse < 0 ? QByteArray()
                                                             : m_colours.universeData(quint16(m_inspectedUniverse)));
 }

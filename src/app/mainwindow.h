@@ -175,6 +175,7 @@ private:
     // Hands the colour buffer's current lists to the view on show and the
     // inspected universe's bytes to the inspector.
     void pushMonitor();
+    void pushInspector();
     // Drops every colour and the inspector's bytes (the monitor goes dark).
     void clearLiveState();
 

@@ -8,6 +8,7 @@
 #include "patch/frameorder.h"
 #include "panels/statuslabel.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QHostAddress>
@@ -97,6 +98,12 @@ void MainWindow::onLiveRepaint()
 {
     if (!m_live || !m_live->takeDirty())
         return;
+    // Under the health overlay the views change with the health figures
+    // (refreshHealth, twice a second), not with every frame.
+    if (m_healthCheck->isChecked()) {
+        pushInspector();
+        return;
+    }
     pushMonitor();
     ++m_liveRepaints;
 }

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kCycle = 255;
 constexpr int kHalfCycle = 127;
-constexpr size_t kIntervalsKept = 64; // about 1.5 s at 44 Hz: little to touch per packet on thousands of universes
 constexpr qint64 kSecondNs = 1'000'000'000LL;
 
 // Counts an arrival in one-second windows: the rate is the last full second's count.
@@ -110,11 +109,9 @@ void Analyser::addDmx(qint64 timeNs, quint32 address, quint16 port, quint16 port
         s.maxIntervalNs = std::max(s.maxIntervalNs, interval);
         // A ring of the latest intervals: the median is taken when asked, not per packet.
         const auto us = qint32(std::clamp<qint64>(interval / 1000, 0, INT32_MAX));
-        if (s.intervalsUs.size() < kIntervalsKept)
-            s.intervalsUs.push_back(us);
-        else
-            s.intervalsUs[s.nextInterval] = us;
+        s.intervalsUs[s.nextInterval] = us;
         s.nextInterval = (s.nextInterval + 1) % kIntervalsKept;
+        s.intervalCount = std::min(s.intervalCount + 1, kIntervalsKept);
         if (length != s.lastLength)
             ++s.lengthChanges;
     } else {
@@ -222,7 +219,7 @@ QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16>
             sh.duplicates = s.duplicates;
             sh.lengthChanges = s.lengthChanges;
             sh.lastSeenMs = std::max<qint64>(0, (nowNs - s.lastNs) / 1'000'000);
-            std::vector<qint32> sorted = s.intervalsUs;
+            std::vector<qint32> sorted(s.intervalsUs.begin(), s.intervalsUs.begin() + qsizetype(s.intervalCount));
             std::sort(sorted.begin(), sorted.end());
             sh.minIntervalMs = s.minIntervalNs < 0 ? 0 : double(s.minIntervalNs) / 1e6;
             sh.maxIntervalMs = double(s.maxIntervalNs) / 1e6;

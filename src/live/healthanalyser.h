@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVector>
 
+#include <array>
+#include <bitset>
 #include <memory>
 #include <vector>
 
@@ -86,16 +88,20 @@ public:
     qint64 lastTimeNs() const { return m_lastNs; }
 
 private:
+    // About 1.5 s at 44 Hz: little to touch per packet on thousands of universes.
+    static constexpr size_t kIntervalsKept = 64;
     struct Source
     {
         qint64 packets = 0;
         qint64 firstNs = 0, lastNs = 0;
         int lastLength = -1;
         quint8 highest = 0;                // 0: no numbered packet yet
-        std::vector<bool> missing = std::vector<bool>(256, false);
+        std::bitset<256> missing;          // numbers skipped that may still arrive
         qint64 lost = 0, outOfOrder = 0, duplicates = 0, lengthChanges = 0;
-        std::vector<qint32> intervalsUs;   // a ring of the latest 64, for the median
-        size_t nextInterval = 0;
+        // A ring of the latest intervals, for the median; kept inline, as the
+        // rest, so a packet touches one block of memory per sender.
+        std::array<qint32, kIntervalsKept> intervalsUs{};
+        size_t intervalCount = 0, nextInterval = 0;
         qint64 minIntervalNs = -1, maxIntervalNs = 0;
         qint64 windowStartNs = 0;          // live: packets counted in one-second windows
         qint64 windowCount = 0;

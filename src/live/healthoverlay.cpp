@@ -62,13 +62,15 @@ void paintStates(const TPatch::PixelLayout &layout, const QVector<UniverseHealth
 
 QString figuresText(const UniverseHealth &u)
 {
-    const auto tr = [](const char *text, int n = -1) { return QCoreApplication::translate("Health", text, nullptr, n); };
     if (u.state == QLatin1String("never"))
-        return stateDisplayName(u.state) + tr(" · nothing received");
+        return stateDisplayName(u.state) + QCoreApplication::translate("Health", " · nothing received");
     qint64 lastSeenMs = -1;
     for (const SourceHealth &s : u.sources)
         lastSeenMs = lastSeenMs < 0 ? s.lastSeenMs : std::min(lastSeenMs, s.lastSeenMs);
-    return tr("%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago", int(u.sources.size()))
+    return QCoreApplication::translate("Health",
+                                       "%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · "
+                                       "last %6 s ago",
+                                       nullptr, int(u.sources.size()))
         .arg(stateDisplayName(u.state))
         .arg(u.fps, 0, 'f', 1)
         .arg(u.lost)

@@ -133,13 +133,10 @@ void UniverseHealthModel::relayout(QVector<UniverseHealth> rows)
         m_rows = std::move(rows);
         if (m_rows.isEmpty())
             return;
+        // One signal for all: a view repaints its viewport for a range, the
+        // open senders' rows with it. One per universe would cost a tree view
+        // a search of its rows each, thousands of times a refresh.
         emit dataChanged(index(0, 0), index(int(m_rows.size()) - 1, ColumnCount - 1));
-        for (int i = 0; i < m_rows.size(); ++i) {
-            if (!m_rows.at(i).sources.isEmpty()) {
-                const QModelIndex parent = index(i, 0);
-                emit dataChanged(index(0, 0, parent), index(int(m_rows.at(i).sources.size()) - 1, ColumnCount - 1, parent));
-            }
-        }
         return;
     }
     emit layoutAboutToBeChanged();

@@ -65,6 +65,8 @@ const Entry kEntries[] = {
     {"&View", "Fit to View", "Ctrl+0", 'a', true},
     {"&View", "3D Camera", "", 'a', false},
     {"&View", "White Channels", "", 'a', false},
+    {"&View", "Health Overlay", "Ctrl+H", 'a', false},
+    {"&View", "Universe Health...", "Ctrl+Shift+H", 'a', false},
     {"&View", "Full Screen", "F11", 'a', false},
     {"&Playback", "Play / Pause", "Space", 'a', true},
     {"&Playback", "Rewind", "Home", 'r', false},
@@ -329,7 +331,8 @@ void TestMainWindowMenus::entriesMirrorTheMonitorBar()
     QVERIFY(!white->isChecked());
     QCOMPARE(status(w), QStringLiteral("White channel contribution off."));
 
-    for (const auto &[entry, box] : {std::pair{"Show Axes", "Axes"}, std::pair{"Fast Draw", "Fast draw"}}) {
+    for (const auto &[entry, box] : {std::pair{"Show Axes", "Axes"}, std::pair{"Fast Draw", "Fast draw"},
+                                     std::pair{"Health Overlay", "Health"}}) {
         w.menuAction(entry)->trigger();
         QVERIFY2(button<QCheckBox>(&w, QString::fromLatin1(box))->isChecked(), entry);
         click(&w, QString::fromLatin1(box));

@@ -518,6 +518,84 @@ Auswählen, um dieses Universum auf dem Monitor hervorzuheben.</translation>
     </message>
 </context>
 <context>
+    <name>Health</name>
+    <message>
+        <source>ArtDmx packets received for this universe.</source>
+        <translation>Für dieses Universum empfangene ArtDmx-Pakete.</translation>
+    </message>
+    <message>
+        <source>Packets per second: over the last second live, over the whole file otherwise.</source>
+        <translation>Pakete pro Sekunde: live über die letzte Sekunde, sonst über die gesamte Datei.</translation>
+    </message>
+    <message>
+        <source>Sequence numbers skipped by forward jumps (shorter than half the 1-255 cycle, across the wrap from 255 to 1), less those that arrived late: a swapped pair loses nothing.</source>
+        <translation>Durch Vorwärtssprünge übersprungene Sequenznummern (kürzer als der halbe Zyklus 1-255, auch über den Übergang von 255 auf 1 hinweg), abzüglich der verspätet eingetroffenen: Ein vertauschtes Paar verliert nichts.</translation>
+    </message>
+    <message>
+        <source>Packets that arrived behind the highest sequence number seen so far (a backward step shorter than half the cycle).</source>
+        <translation>Pakete, deren Sequenznummer beim Eintreffen hinter der bisher höchsten zurücklag (ein Rückschritt, kürzer als der halbe Zyklus).</translation>
+    </message>
+    <message>
+        <source>Packets repeating the highest sequence number seen so far.</source>
+        <translation>Pakete, die die bisher höchste Sequenznummer wiederholen.</translation>
+    </message>
+    <message>
+        <source>Times the data length changed from one packet to the next.</source>
+        <translation>Wie oft sich die Datenlänge von einem Paket zum nächsten geändert hat.</translation>
+    </message>
+    <message>
+        <source>Milliseconds since the last packet.</source>
+        <translation>Millisekunden seit dem letzten Paket.</translation>
+    </message>
+    <message>
+        <source>The shortest, median and longest time between two packets, in ms (the median of the latest 64).</source>
+        <translation>Kürzeste Zeit, Median und längste Zeit zwischen zwei Paketen, in ms (der Median der letzten 64).</translation>
+    </message>
+    <message>
+        <source>ArtSync periods in which the universe came twice or not at all (a torn frame).</source>
+        <translation>ArtSync-Perioden, in denen das Universum zweimal oder gar nicht kam (ein zerrissenes Bild).</translation>
+    </message>
+    <message>
+        <source>never: patched, nothing received; stale: nothing for more than 4 s; conflict: two or more senders; unstable: over 1 % of packets lost, out of order or repeated, or a longest interval over 4 times the median and over 100 ms; ok: none of these.</source>
+        <translation>nie: gepatcht, nichts empfangen; veraltet: seit mehr als 4 s nichts; Konflikt: zwei oder mehr Quellen; instabil: über 1 % der Pakete verloren, in falscher Reihenfolge oder wiederholt, oder ein längstes Intervall über dem 4-Fachen des Medians und über 100 ms; ok: nichts davon.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2</source>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>stale</source>
+        <translation>veraltet</translation>
+    </message>
+    <message>
+        <source>conflict</source>
+        <translation>Konflikt</translation>
+    </message>
+    <message>
+        <source>unstable</source>
+        <translation>instabil</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source> · nothing received</source>
+        <translation> · nichts empfangen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <translation>
+            <numerusform>%1 · %n Quelle · %2 fps · %3 verloren · %4 in falscher Reihenfolge · %5 Duplikate · zuletzt vor %6 s</numerusform>
+            <numerusform>%1 · %n Quellen · %2 fps · %3 verloren · %4 in falscher Reihenfolge · %5 Duplikate · zuletzt vor %6 s</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin.</source>
@@ -1368,6 +1446,66 @@ Eine Berührung der Ansicht mit der Maus beendet dies.</translation>
     <message>
         <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
         <translation>Die Art-Net-Nodes im Netzwerk auflisten und zeigen, was an ihren Antworten nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe: ok, unstable, conflict (several senders), stale (nothing for 4 s) or never received. Hover a fixture for its universe&apos;s figures.</source>
+        <translation>Jedes Fixture in der Zustandsfarbe seines Universums darstellen: ok, instabil, Konflikt (mehrere Quellen), veraltet (4 s lang nichts) oder nie empfangen. Mit der Maus über ein Fixture fahren, um die Werte seines Universums zu sehen.</translation>
+    </message>
+    <message>
+        <source>A GPS-Sync set is not analysed: the table follows the live node or a Standard Art-Net recording.</source>
+        <translation>Ein GPS-Sync-Set wird nicht ausgewertet: Die Tabelle folgt dem Live-Node oder einer Standard-Art-Net-Aufnahme.</translation>
+    </message>
+    <message>
+        <source>No recording loaded: open a recording or a capture, or listen live.</source>
+        <translation>Keine Aufnahme geladen: Öffnen Sie eine Aufnahme oder einen Mitschnitt, oder empfangen Sie live.</translation>
+    </message>
+    <message>
+        <source>Capture %1, over the whole file.</source>
+        <translation>Mitschnitt %1, über die gesamte Datei.</translation>
+    </message>
+    <message>
+        <source>Recording %1 at %2 fps, over the whole file (a recording keeps no senders or sequence numbers).</source>
+        <translation>Aufnahme %1 mit %2 fps, über die gesamte Datei (eine Aufnahme speichert weder Quellen noch Sequenznummern).</translation>
+    </message>
+    <message>
+        <source>Capture %1 could not be read: %2</source>
+        <translation>Mitschnitt %1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Live: the node on %1:%2, fps over the last second.</source>
+        <translation>Live: der Node auf %1:%2, fps über die letzte Sekunde.</translation>
+    </message>
+    <message>
+        <source>Live: the node is not listening.</source>
+        <translation>Live: Der Node empfängt nicht.</translation>
+    </message>
+    <message>
+        <source>Export Universe Health</source>
+        <translation>Universum-Zustand exportieren</translation>
+    </message>
+    <message>
+        <source>Universe health exported to %1.</source>
+        <translation>Universum-Zustand nach %1 exportiert.</translation>
+    </message>
+    <message>
+        <source>Health Overlay</source>
+        <translation>Zustands-Overlay</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe.</source>
+        <translation>Jedes Fixture in der Zustandsfarbe seines Universums darstellen.</translation>
+    </message>
+    <message>
+        <source>Universe Health...</source>
+        <translation>Universum-Zustand...</translation>
+    </message>
+    <message>
+        <source>Per universe and sender: rate, lost and late packets, conflicts, ArtSync.</source>
+        <translation>Pro Universum und Quelle: Rate, verlorene und verspätete Pakete, Konflikte, ArtSync.</translation>
     </message>
 </context>
 <context>
@@ -2582,6 +2720,106 @@ So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</t
     <message>
         <source> GPS-Sync</source>
         <translation> GPS-Sync</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthModel</name>
+    <message>
+        <source>Universe / sender</source>
+        <translation>Universum / Quelle</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>Pakete</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Verloren</translation>
+    </message>
+    <message>
+        <source>Out of order</source>
+        <translation>Falsche Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Duplikate</translation>
+    </message>
+    <message>
+        <source>Sync missed</source>
+        <translation>Sync verpasst</translation>
+    </message>
+    <message>
+        <source>Length changes</source>
+        <translation>Längenänderungen</translation>
+    </message>
+    <message>
+        <source>Last seen</source>
+        <translation>Zuletzt empfangen</translation>
+    </message>
+    <message>
+        <source>Intervals min / median / max (ms)</source>
+        <translation>Intervalle min / Median / max (ms)</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>vor %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthWindow</name>
+    <message numerus="yes">
+        <source>ArtSync: %1 per second, %n packet(s)</source>
+        <translation>
+            <numerusform>ArtSync: %1 pro Sekunde, %n Paket</numerusform>
+            <numerusform>ArtSync: %1 pro Sekunde, %n Pakete</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No ArtSync seen.</source>
+        <translation>Kein ArtSync empfangen.</translation>
+    </message>
+    <message>
+        <source>No universe yet: nothing received and no patch loaded.</source>
+        <translation>Noch kein Universum: nichts empfangen und kein Patch geladen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n universe(s): %1</source>
+        <translation>
+            <numerusform>%n Universum: %1</numerusform>
+            <numerusform>%n Universen: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Universe Health</source>
+        <translation>Universum-Zustand</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Start every counter again from zero.</source>
+        <translation>Alle Zähler auf null zurücksetzen.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>CSV exportieren...</translation>
+    </message>
+    <message>
+        <source>Export the health table as CSV</source>
+        <translation>Die Zustandstabelle als CSV exportieren</translation>
+    </message>
+    <message>
+        <source>Universe health</source>
+        <translation>Universum-Zustand</translation>
     </message>
 </context>
 <context>

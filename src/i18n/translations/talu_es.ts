@@ -518,6 +518,84 @@ Selecciónelo para resaltar este universo en el monitor.</translation>
     </message>
 </context>
 <context>
+    <name>Health</name>
+    <message>
+        <source>ArtDmx packets received for this universe.</source>
+        <translation>Paquetes ArtDmx recibidos para este universo.</translation>
+    </message>
+    <message>
+        <source>Packets per second: over the last second live, over the whole file otherwise.</source>
+        <translation>Paquetes por segundo: en directo, durante el último segundo; si no, sobre todo el archivo.</translation>
+    </message>
+    <message>
+        <source>Sequence numbers skipped by forward jumps (shorter than half the 1-255 cycle, across the wrap from 255 to 1), less those that arrived late: a swapped pair loses nothing.</source>
+        <translation>Números de secuencia omitidos por saltos hacia delante (más cortos que la mitad del ciclo 1-255, también al pasar de 255 a 1), menos los que llegaron tarde: un par intercambiado no pierde nada.</translation>
+    </message>
+    <message>
+        <source>Packets that arrived behind the highest sequence number seen so far (a backward step shorter than half the cycle).</source>
+        <translation>Paquetes que llegaron por detrás del número de secuencia más alto visto hasta ahora (un retroceso más corto que la mitad del ciclo).</translation>
+    </message>
+    <message>
+        <source>Packets repeating the highest sequence number seen so far.</source>
+        <translation>Paquetes que repiten el número de secuencia más alto visto hasta ahora.</translation>
+    </message>
+    <message>
+        <source>Times the data length changed from one packet to the next.</source>
+        <translation>Veces que la longitud de los datos cambió de un paquete al siguiente.</translation>
+    </message>
+    <message>
+        <source>Milliseconds since the last packet.</source>
+        <translation>Milisegundos desde el último paquete.</translation>
+    </message>
+    <message>
+        <source>The shortest, median and longest time between two packets, in ms (the median of the latest 64).</source>
+        <translation>El tiempo más corto, la mediana y el tiempo más largo entre dos paquetes, en ms (la mediana de los últimos 64).</translation>
+    </message>
+    <message>
+        <source>ArtSync periods in which the universe came twice or not at all (a torn frame).</source>
+        <translation>Periodos de ArtSync en los que el universo llegó dos veces o ninguna (un fotograma partido).</translation>
+    </message>
+    <message>
+        <source>never: patched, nothing received; stale: nothing for more than 4 s; conflict: two or more senders; unstable: over 1 % of packets lost, out of order or repeated, or a longest interval over 4 times the median and over 100 ms; ok: none of these.</source>
+        <translation>nunca: en el patch, no se ha recibido nada; obsoleto: nada durante más de 4 s; conflicto: dos o más fuentes; inestable: más del 1 % de los paquetes perdidos, desordenados o repetidos, o un intervalo más largo que supera 4 veces la mediana y los 100 ms; ok: nada de lo anterior.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2</source>
+        <translation>No se puede abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>stale</source>
+        <translation>obsoleto</translation>
+    </message>
+    <message>
+        <source>conflict</source>
+        <translation>conflicto</translation>
+    </message>
+    <message>
+        <source>unstable</source>
+        <translation>inestable</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source> · nothing received</source>
+        <translation> · nada recibido</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <translation>
+            <numerusform>%1 · %n fuente · %2 fps · %3 perdidos · %4 desordenados · %5 duplicados · último hace %6 s</numerusform>
+            <numerusform>%1 · %n fuentes · %2 fps · %3 perdidos · %4 desordenados · %5 duplicados · último hace %6 s</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin.</source>
@@ -1368,6 +1446,66 @@ Tocar la vista con el ratón lo detiene.</translation>
     <message>
         <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
         <translation>Lista los nodos Art-Net de la red y lo que falla en sus respuestas.</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe: ok, unstable, conflict (several senders), stale (nothing for 4 s) or never received. Hover a fixture for its universe&apos;s figures.</source>
+        <translation>Pinta cada aparato con el color de salud de su universo: ok, inestable, conflicto (varias fuentes), obsoleto (nada durante 4 s) o nunca recibido. Pase el ratón sobre un aparato para ver las cifras de su universo.</translation>
+    </message>
+    <message>
+        <source>A GPS-Sync set is not analysed: the table follows the live node or a Standard Art-Net recording.</source>
+        <translation>Un conjunto GPS-Sync no se analiza: la tabla sigue al nodo en directo o a una grabación Art-Net estándar.</translation>
+    </message>
+    <message>
+        <source>No recording loaded: open a recording or a capture, or listen live.</source>
+        <translation>No hay ninguna grabación cargada: abra una grabación o una captura, o escuche en directo.</translation>
+    </message>
+    <message>
+        <source>Capture %1, over the whole file.</source>
+        <translation>Captura %1, sobre todo el archivo.</translation>
+    </message>
+    <message>
+        <source>Recording %1 at %2 fps, over the whole file (a recording keeps no senders or sequence numbers).</source>
+        <translation>Grabación %1 a %2 fps, sobre todo el archivo (una grabación no guarda fuentes ni números de secuencia).</translation>
+    </message>
+    <message>
+        <source>Capture %1 could not be read: %2</source>
+        <translation>No se pudo leer la captura %1: %2</translation>
+    </message>
+    <message>
+        <source>Live: the node on %1:%2, fps over the last second.</source>
+        <translation>En directo: el nodo en %1:%2, fps durante el último segundo.</translation>
+    </message>
+    <message>
+        <source>Live: the node is not listening.</source>
+        <translation>En directo: el nodo no está escuchando.</translation>
+    </message>
+    <message>
+        <source>Export Universe Health</source>
+        <translation>Exportar salud de universos</translation>
+    </message>
+    <message>
+        <source>Universe health exported to %1.</source>
+        <translation>Salud de universos exportada a %1.</translation>
+    </message>
+    <message>
+        <source>Health Overlay</source>
+        <translation>Capa de salud</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe.</source>
+        <translation>Pinta cada aparato con el color de salud de su universo.</translation>
+    </message>
+    <message>
+        <source>Universe Health...</source>
+        <translation>Salud de universos...</translation>
+    </message>
+    <message>
+        <source>Per universe and sender: rate, lost and late packets, conflicts, ArtSync.</source>
+        <translation>Por universo y fuente: tasa, paquetes perdidos y tardíos, conflictos, ArtSync.</translation>
     </message>
 </context>
 <context>
@@ -2582,6 +2720,106 @@ Así se comprueba si una grabación basada en periodos enlaza sin cortes.</trans
     <message>
         <source> GPS-Sync</source>
         <translation> GPS-Sync</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthModel</name>
+    <message>
+        <source>Universe / sender</source>
+        <translation>Universo / fuente</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>Paquetes</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdidos</translation>
+    </message>
+    <message>
+        <source>Out of order</source>
+        <translation>Desordenados</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Duplicados</translation>
+    </message>
+    <message>
+        <source>Sync missed</source>
+        <translation>Sync perdidos</translation>
+    </message>
+    <message>
+        <source>Length changes</source>
+        <translation>Cambios de longitud</translation>
+    </message>
+    <message>
+        <source>Last seen</source>
+        <translation>Última recepción</translation>
+    </message>
+    <message>
+        <source>Intervals min / median / max (ms)</source>
+        <translation>Intervalos mín. / mediana / máx. (ms)</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>hace %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthWindow</name>
+    <message numerus="yes">
+        <source>ArtSync: %1 per second, %n packet(s)</source>
+        <translation>
+            <numerusform>ArtSync: %1 por segundo, %n paquete</numerusform>
+            <numerusform>ArtSync: %1 por segundo, %n paquetes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No ArtSync seen.</source>
+        <translation>No se ha visto ningún ArtSync.</translation>
+    </message>
+    <message>
+        <source>No universe yet: nothing received and no patch loaded.</source>
+        <translation>Aún no hay ningún universo: no se ha recibido nada y no hay ningún patch cargado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n universe(s): %1</source>
+        <translation>
+            <numerusform>%n universo: %1</numerusform>
+            <numerusform>%n universos: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Universe Health</source>
+        <translation>Salud de universos</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Start every counter again from zero.</source>
+        <translation>Vuelve a poner todos los contadores a cero.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>Exportar CSV...</translation>
+    </message>
+    <message>
+        <source>Export the health table as CSV</source>
+        <translation>Exportar la tabla de salud como CSV</translation>
+    </message>
+    <message>
+        <source>Universe health</source>
+        <translation>Salud de universos</translation>
     </message>
 </context>
 <context>

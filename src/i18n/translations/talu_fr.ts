@@ -518,6 +518,84 @@ Sélectionnez pour mettre en évidence cet univers sur le moniteur.</translation
     </message>
 </context>
 <context>
+    <name>Health</name>
+    <message>
+        <source>ArtDmx packets received for this universe.</source>
+        <translation>Paquets ArtDmx reçus pour cet univers.</translation>
+    </message>
+    <message>
+        <source>Packets per second: over the last second live, over the whole file otherwise.</source>
+        <translation>Paquets par seconde : sur la dernière seconde en direct, sur l&apos;ensemble du fichier sinon.</translation>
+    </message>
+    <message>
+        <source>Sequence numbers skipped by forward jumps (shorter than half the 1-255 cycle, across the wrap from 255 to 1), less those that arrived late: a swapped pair loses nothing.</source>
+        <translation>Numéros de séquence sautés par des bonds en avant (plus courts que la moitié du cycle 1-255, y compris au passage de 255 à 1), moins ceux arrivés en retard : une paire inversée ne perd rien.</translation>
+    </message>
+    <message>
+        <source>Packets that arrived behind the highest sequence number seen so far (a backward step shorter than half the cycle).</source>
+        <translation>Paquets arrivés en deçà du plus grand numéro de séquence vu jusqu&apos;ici (un recul plus court que la moitié du cycle).</translation>
+    </message>
+    <message>
+        <source>Packets repeating the highest sequence number seen so far.</source>
+        <translation>Paquets répétant le plus grand numéro de séquence vu jusqu&apos;ici.</translation>
+    </message>
+    <message>
+        <source>Times the data length changed from one packet to the next.</source>
+        <translation>Nombre de fois où la longueur des données a changé d&apos;un paquet au suivant.</translation>
+    </message>
+    <message>
+        <source>Milliseconds since the last packet.</source>
+        <translation>Millisecondes depuis le dernier paquet.</translation>
+    </message>
+    <message>
+        <source>The shortest, median and longest time between two packets, in ms (the median of the latest 64).</source>
+        <translation>Le temps le plus court, médian et le plus long entre deux paquets, en ms (la médiane des 64 derniers).</translation>
+    </message>
+    <message>
+        <source>ArtSync periods in which the universe came twice or not at all (a torn frame).</source>
+        <translation>Périodes ArtSync pendant lesquelles l&apos;univers est arrivé deux fois ou pas du tout (une image déchirée).</translation>
+    </message>
+    <message>
+        <source>never: patched, nothing received; stale: nothing for more than 4 s; conflict: two or more senders; unstable: over 1 % of packets lost, out of order or repeated, or a longest interval over 4 times the median and over 100 ms; ok: none of these.</source>
+        <translation>jamais : patché, rien reçu ; périmé : rien depuis plus de 4 s ; conflit : deux sources ou plus ; instable : plus de 1 % des paquets perdus, hors séquence ou répétés, ou un intervalle le plus long supérieur à 4 fois la médiane et à 100 ms ; ok : aucun de ces cas.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2</source>
+        <translation>Impossible d&apos;ouvrir %1 : %2</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>jamais</translation>
+    </message>
+    <message>
+        <source>stale</source>
+        <translation>périmé</translation>
+    </message>
+    <message>
+        <source>conflict</source>
+        <translation>conflit</translation>
+    </message>
+    <message>
+        <source>unstable</source>
+        <translation>instable</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source> · nothing received</source>
+        <translation> · rien reçu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <translation>
+            <numerusform>%1 · %n source · %2 fps · %3 perdus · %4 hors séquence · %5 doublons · dernier il y a %6 s</numerusform>
+            <numerusform>%1 · %n sources · %2 fps · %3 perdus · %4 hors séquence · %5 doublons · dernier il y a %6 s</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Ready. Load a patch (.tpatch, MADRIX .mpz or ELM .elm) to begin.</source>
@@ -1368,6 +1446,66 @@ Toucher la vue avec la souris l&apos;arrête.</translation>
     <message>
         <source>List the Art-Net nodes on the network and what is wrong with their replies.</source>
         <translation>Liste les nœuds Art-Net du réseau et ce qui ne va pas dans leurs réponses.</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe: ok, unstable, conflict (several senders), stale (nothing for 4 s) or never received. Hover a fixture for its universe&apos;s figures.</source>
+        <translation>Colore chaque projecteur selon la couleur de santé de son univers : ok, instable, conflit (plusieurs sources), périmé (rien depuis 4 s) ou jamais reçu. Survolez un projecteur pour voir les chiffres de son univers.</translation>
+    </message>
+    <message>
+        <source>A GPS-Sync set is not analysed: the table follows the live node or a Standard Art-Net recording.</source>
+        <translation>Un jeu GPS-Sync n&apos;est pas analysé : le tableau suit le nœud en direct ou un enregistrement Art-Net standard.</translation>
+    </message>
+    <message>
+        <source>No recording loaded: open a recording or a capture, or listen live.</source>
+        <translation>Aucun enregistrement chargé : ouvrez un enregistrement ou une capture, ou écoutez en direct.</translation>
+    </message>
+    <message>
+        <source>Capture %1, over the whole file.</source>
+        <translation>Capture %1, sur l&apos;ensemble du fichier.</translation>
+    </message>
+    <message>
+        <source>Recording %1 at %2 fps, over the whole file (a recording keeps no senders or sequence numbers).</source>
+        <translation>Enregistrement %1 à %2 fps, sur l&apos;ensemble du fichier (un enregistrement ne conserve ni sources ni numéros de séquence).</translation>
+    </message>
+    <message>
+        <source>Capture %1 could not be read: %2</source>
+        <translation>Impossible de lire la capture %1 : %2</translation>
+    </message>
+    <message>
+        <source>Live: the node on %1:%2, fps over the last second.</source>
+        <translation>En direct : le nœud sur %1:%2, fps sur la dernière seconde.</translation>
+    </message>
+    <message>
+        <source>Live: the node is not listening.</source>
+        <translation>En direct : le nœud n&apos;écoute pas.</translation>
+    </message>
+    <message>
+        <source>Export Universe Health</source>
+        <translation>Exporter la santé des univers</translation>
+    </message>
+    <message>
+        <source>Universe health exported to %1.</source>
+        <translation>Santé des univers exportée vers %1.</translation>
+    </message>
+    <message>
+        <source>Health Overlay</source>
+        <translation>Calque de santé</translation>
+    </message>
+    <message>
+        <source>Paint every fixture in the health colour of its universe.</source>
+        <translation>Colore chaque projecteur selon la couleur de santé de son univers.</translation>
+    </message>
+    <message>
+        <source>Universe Health...</source>
+        <translation>Santé des univers...</translation>
+    </message>
+    <message>
+        <source>Per universe and sender: rate, lost and late packets, conflicts, ArtSync.</source>
+        <translation>Par univers et par source : cadence, paquets perdus et en retard, conflits, ArtSync.</translation>
     </message>
 </context>
 <context>
@@ -2582,6 +2720,106 @@ C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique bo
     <message>
         <source> GPS-Sync</source>
         <translation> GPS-Sync</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthModel</name>
+    <message>
+        <source>Universe / sender</source>
+        <translation>Univers / source</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Packets</source>
+        <translation>Paquets</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdus</translation>
+    </message>
+    <message>
+        <source>Out of order</source>
+        <translation>Hors séquence</translation>
+    </message>
+    <message>
+        <source>Duplicates</source>
+        <translation>Doublons</translation>
+    </message>
+    <message>
+        <source>Sync missed</source>
+        <translation>Sync manquées</translation>
+    </message>
+    <message>
+        <source>Length changes</source>
+        <translation>Changements de longueur</translation>
+    </message>
+    <message>
+        <source>Last seen</source>
+        <translation>Dernière réception</translation>
+    </message>
+    <message>
+        <source>Intervals min / median / max (ms)</source>
+        <translation>Intervalles min / médiane / max (ms)</translation>
+    </message>
+    <message>
+        <source>%1 s ago</source>
+        <translation>il y a %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>UniverseHealthWindow</name>
+    <message numerus="yes">
+        <source>ArtSync: %1 per second, %n packet(s)</source>
+        <translation>
+            <numerusform>ArtSync : %1 par seconde, %n paquet</numerusform>
+            <numerusform>ArtSync : %1 par seconde, %n paquets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No ArtSync seen.</source>
+        <translation>Aucun ArtSync reçu.</translation>
+    </message>
+    <message>
+        <source>No universe yet: nothing received and no patch loaded.</source>
+        <translation>Aucun univers pour l&apos;instant : rien reçu et aucun patch chargé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n universe(s): %1</source>
+        <translation>
+            <numerusform>%n univers : %1</numerusform>
+            <numerusform>%n univers : %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Universe Health</source>
+        <translation>Santé des univers</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Start every counter again from zero.</source>
+        <translation>Remettre tous les compteurs à zéro.</translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>Exporter en CSV...</translation>
+    </message>
+    <message>
+        <source>Export the health table as CSV</source>
+        <translation>Exporter le tableau de santé en CSV</translation>
+    </message>
+    <message>
+        <source>Universe health</source>
+        <translation>Santé des univers</translation>
     </message>
 </context>
 <context>

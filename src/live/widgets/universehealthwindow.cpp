@@ -28,7 +28,9 @@ UniverseHealthWindow::UniverseHealthWindow(QWidget *parent) : QWidget(parent, Qt
     m_table->setAlternatingRowColors(true);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(UniverseHealthModel::UniverseColumn, Qt::AscendingOrder);
-    m_table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Columns fit their contents when the rows change, not at every refresh:
+    // measuring thousands of rows twice a second would stall the live node.
+    m_table->header()->setSectionResizeMode(QHeaderView::Interactive);
     m_summary = new QLabel(this);
     m_summary->setObjectName(QStringLiteral("healthSummary"));
     m_summary->setWordWrap(true);
@@ -49,6 +51,7 @@ UniverseHealthWindow::UniverseHealthWindow(QWidget *parent) : QWidget(parent, Qt
     connect(m_table, &QTreeView::collapsed, this,
             [this](const QModelIndex &i) { m_expanded.remove(m_model->universeAt(i.row()).portAddress); });
     connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        m_table->header()->resizeSections(QHeaderView::ResizeToContents);
         for (int row = 0; row < m_model->rowCount(); ++row)
             if (m_expanded.contains(m_model->universeAt(row).portAddress))
                 m_table->expand(m_model->index(row, 0));
