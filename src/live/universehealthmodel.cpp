@@ -52,6 +52,9 @@ qint64 lastSeenMs(const UniverseHealth &u)
 
 QString senderText(const SourceHealth &s)
 {
+    // A recording keeps no senders: its one "sender" is the file.
+    if (s.address == 0 && s.port == 0)
+        return QCoreApplication::translate("UniverseHealthModel", "the recording");
     return QStringLiteral("%1:%2").arg(QHostAddress(s.address).toString()).arg(s.port);
 }
 

@@ -1,5 +1,6 @@
 // The recorded-playback and GPS-Sync workflows, driven through the panels.
 #include "artnet/artnetpacket.h"
+#include "live/widgets/universehealthwindow.h"
 #include "packetlog/logfiles.h"
 #include "panels/gpsgrouprow.h"
 #include "panels/gpsplaybackpanel.h"
@@ -22,6 +23,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 #include <functional>
 
@@ -327,6 +329,17 @@ void TestMainWindowPlayback::captureLoadsAsRecording()
     const RecordRef last = w.recording().recordAt(3, 2);
     QCOMPARE(last.universe, quint16(2));
     QCOMPARE(w.recording().dataOf(last), QByteArray(64, char(3 * 16 + 2)));
+
+    // Its health comes from the capture's own packets, senders and sequence numbers included.
+    w.menuAction("Universe Health...")->trigger();
+    auto *health = w.findChild<UniverseHealthWindow *>();
+    QCOMPARE(health->findChild<QLabel *>(QStringLiteral("healthSource"))->text(),
+             QStringLiteral("Capture site.pcapng, over the whole file."));
+    QCOMPARE(health->findChild<QLabel *>(QStringLiteral("healthSummary"))->text(),
+             QStringLiteral("3 universe(s): 3 ok"));
+    const QAbstractItemModel *table = health->table()->model();
+    QCOMPARE(table->index(0, 0, table->index(2, 0)).data().toString(), QStringLiteral("192.0.2.1:6454"));
+    QCOMPARE(table->index(2, UniverseHealthModel::FpsColumn).data().toString(), QStringLiteral("40.0"));
 }
 
 QTEST_MAIN(TestMainWindowPlayback)

@@ -2772,6 +2772,10 @@ So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</t
         <source>%1 s ago</source>
         <translation>vor %1 s</translation>
     </message>
+    <message>
+        <source>the recording</source>
+        <translation>die Aufnahme</translation>
+    </message>
 </context>
 <context>
     <name>UniverseHealthWindow</name>

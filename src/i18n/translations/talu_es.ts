@@ -2772,6 +2772,10 @@ Así se comprueba si una grabación basada en periodos enlaza sin cortes.</trans
         <source>%1 s ago</source>
         <translation>hace %1 s</translation>
     </message>
+    <message>
+        <source>the recording</source>
+        <translation>la grabación</translation>
+    </message>
 </context>
 <context>
     <name>UniverseHealthWindow</name>

@@ -2772,6 +2772,10 @@ C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique bo
         <source>%1 s ago</source>
         <translation>il y a %1 s</translation>
     </message>
+    <message>
+        <source>the recording</source>
+        <translation>l&apos;enregistrement</translation>
+    </message>
 </context>
 <context>
     <name>UniverseHealthWindow</name>
