@@ -89,6 +89,12 @@ void TestLivePipeline::packetReachesWriterColoursAndDirtyFlag()
     QCOMPARE(dmx.at(1).portAddress, quint16(9));
     QCOMPARE(dmx.at(1).srcIp, QHostAddress(QStringLiteral("192.0.2.2")).toIPv4Address());
     QCOMPARE(dmx.at(1).dstIp, QHostAddress(QStringLiteral("192.0.2.1")).toIPv4Address());
+
+    // A KEL controller's packets are recorded in its own flavour.
+    QVERIFY(rig.live->startRecording(dir.filePath(QStringLiteral("kel.tpx")), 40, 0, &error));
+    rig.socket->deliver({ArtNet::buildKelDmx("KEL6S", 9, 3, QByteArray(8, '\x20'))},
+                        QHostAddress(QStringLiteral("192.0.2.2")));
+    QCOMPARE(rig.live->writer()->flavour(), RecordFlavour::Kel);
 }
 
 void TestLivePipeline::failingRecordingClosesAndSaysSoOnce()

@@ -75,10 +75,18 @@ private slots:
                  expected.left(30));
     }
 
-    void shortNameIsZeroPadded()
+    void renamedNodeShortName()
     {
-        const QByteArray h = RecordingWriter::header(RecordFlavour::Kel, QStringLiteral("AB"), 0, 0);
-        QCOMPARE(h.mid(2, 10), QByteArray("AB\0\0\0\0\0\0\0\0", 10));
+        // A node that renames itself: the next records carry the new name, zero-padded.
+        const QString path = freshPath();
+        RecordingWriter w;
+        QVERIFY(w.open(path, 40, 0));
+        w.setSource(RecordFlavour::Kel, QStringLiteral("KEL6S-LONGNAME"));
+        QVERIFY(w.write(5, QByteArray::fromHex("010203")));
+        w.setSource(RecordFlavour::Kel, QStringLiteral("AB"));
+        QVERIFY(w.write(5, QByteArray::fromHex("010203")));
+        w.close();
+        QCOMPARE(read(path).mid(35 + 2, 10), QByteArray("AB\0\0\0\0\0\0\0\0", 10)); // a KEL record is 35 bytes
     }
 
     void longPayloadIsCut()
