@@ -50,4 +50,22 @@ QString readElementText(QXmlStreamReader &xml, int depth)
     return text;
 }
 
+bool enterElement(QXmlStreamReader &xml, int depth)
+{
+    if (depth <= kMaxXmlDepth)
+        return true;
+    raiseXmlDepthError(xml);
+    return false;
+}
+
+PatchMessage documentError(const QXmlStreamReader &xml, bool sawRoot)
+{
+    // A document that ends before any element is "no root", not a premature end.
+    if (!sawRoot && (!xml.hasError() || xml.error() == QXmlStreamReader::PrematureEndOfDocumentError))
+        return PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the document has no root element"));
+    if (xml.hasError())
+        return PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 (line %2)"), {xml.errorString(), qint64(xml.lineNumber())});
+    return {};
+}
+
 } // namespace TPatch

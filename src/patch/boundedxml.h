@@ -1,5 +1,7 @@
 #pragma once
 
+#include "patch/patchmessage.h"
+
 #include <QString>
 #include <QXmlStreamReader>
 
@@ -13,6 +15,13 @@ constexpr int kMaxXmlDepth = 256;
 // Raises "elements are nested more than 256 deep" on the reader, which then
 // stops with that error.
 void raiseXmlDepthError(QXmlStreamReader &xml);
+// At a start element of this depth (the root is 1): false, with the depth
+// error raised, when it is too deep to read.
+bool enterElement(QXmlStreamReader &xml, int depth);
+
+// Why the document just read is no patch, as the readers word it: the reader's
+// error with its line, or no root element at all; empty when it was whole.
+PatchMessage documentError(const QXmlStreamReader &xml, bool sawRoot);
 
 // QXmlStreamReader::skipCurrentElement and readElementText(IncludeChildElements)
 // with the nesting bound: depth is the current element's own depth (the root

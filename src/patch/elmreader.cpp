@@ -2,8 +2,8 @@
 
 #include "patch/boundedxml.h"
 #include "patch/elmgeometry.h"
+#include "patch/importwarnings.h"
 #include "patch/orderednames.h"
-#include "patch/patchfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -184,10 +184,8 @@ Parsed parseXml(const QByteArray &bytes)
             return parsed;
         }
         sawRoot = true;
-        if (path.size() >= kMaxXmlDepth) {
-            raiseXmlDepthError(xml);
+        if (!enterElement(xml, int(path.size()) + 1))
             break;
-        }
         path.append(xml.name().toString());
         const QXmlStreamAttributes a = xml.attributes();
         if (path.size() == 1) {
@@ -214,18 +212,9 @@ Parsed parseXml(const QByteArray &bytes)
             path.removeLast();
         }
     }
-    if (xml.hasError()) {
-        if (!sawRoot && xml.error() == QXmlStreamReader::PrematureEndOfDocumentError)
-            parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the document has no root element"));
-        else
-            parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 (line %2)"),
-                                        {xml.errorString(), qint64(xml.lineNumber())});
+    parsed.error = documentError(xml, sawRoot);
+    if (!parsed.error.isEmpty())
         return parsed;
-    }
-    if (!sawRoot) {
-        parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the document has no root element"));
-        return parsed;
-    }
     parsed.ok = true;
     return parsed;
 }
@@ -414,11 +403,7 @@ void Mapper::mapFixture(const RawFixture &raw, int fixtureNumber, QMap<int, Torv
 
 PatchLoadResult emptyResult(const QString &sourcePath)
 {
-    PatchLoadResult result;
-    result.patch.formatLabel = QString::fromLatin1(kFormatLabel);
-    result.patch.sourceKind = SourceKind::Elm;
-    result.patch.sourcePath = sourcePath;
-    return result;
+    return emptyImportResult(kFormatLabel, SourceKind::Elm, sourcePath);
 }
 
 void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
@@ -428,21 +413,14 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use 16-bit LED types (%2); the "
                                                      "monitor shows the high byte of each color only."),
                          {f.sixteenBit, f.sixteenBitTypes.joined()}));
-    if (!f.ignoredChannels.isEmpty())
-        warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-            {f.ignoredChannels.joined()}));
+    warnIgnoredChannels(f.ignoredChannels, warnings);
     if (f.splitPixels > 0)
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have a pixel split across a universe "
                                                      "boundary; its channels in the next universe are not "
                                                      "shown."),
                          {f.splitPixels}));
-    if (f.past512 > 0)
-        warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
-                                                     "universe; channels beyond 512 are not shown."),
-                         {f.past512}));
+    warnPast512(f.past512, warnings);
     if (f.otherProtocol > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) output %2 rather than Art-Net and were skipped."),
@@ -452,15 +430,8 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
             QT_TRANSLATE_NOOP("TPatch",
                               "%1 fixture(s) use LED types the tester does not know (%2) and were skipped."),
             {f.unknownType, f.unknownTypes.joined()}));
-    if (f.badUniverse > 0)
-        warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
-                                                     "Art-Net Port-Address and were skipped."),
-                         {f.badUniverse}));
-    if (f.incomplete > 0)
-        warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
-            {f.incomplete}));
+    warnBadUniverse(f.badUniverse, warnings);
+    warnIncomplete(f.incomplete, warnings);
     if (f.overLimit > 0)
         warnings.append(PatchMessage(
             QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) were skipped: the project has more than %2 LEDs."),
@@ -487,8 +458,7 @@ PatchLoadResult parseElmProject(const QByteArray &bytes, const QString &fileName
     }
     appendWarnings(mapper.findings, result.warnings);
     if (result.patch.groups.isEmpty()) {
-        result.error = PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."), {fileName});
+        result.error = nothingToShow(fileName);
         return result;
     }
     // A backup is named "<project>@@YYYY-MM-DD HHhMMm.elmbackup"; its project is the part before "@@".
@@ -503,14 +473,7 @@ PatchLoadResult parseElmProject(const QByteArray &bytes, const QString &fileName
 
 PatchLoadResult readElmProject(const QString &path)
 {
-    QByteArray bytes;
-    PatchMessage error;
-    if (!readPatchFile(path, &bytes, &error)) {
-        PatchLoadResult result = emptyResult(path);
-        result.error = error;
-        return result;
-    }
-    return parseElmProject(bytes, QFileInfo(path).fileName(), path);
+    return readImport(path, parseElmProject, kFormatLabel, SourceKind::Elm);
 }
 
 } // namespace TPatch

@@ -2,8 +2,8 @@
 
 #include "patch/boundedxml.h"
 #include "patch/gzipinflate.h"
+#include "patch/importwarnings.h"
 #include "patch/orderednames.h"
-#include "patch/patchfile.h"
 #include "patch/splicedevice.h"
 
 #include <QBuffer>
@@ -361,10 +361,8 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
             continue;
         // The current element's depth: the root is 1, and every element on the stack is open.
         const int depth = int(stack.size()) + 1;
-        if (depth > kMaxXmlDepth) {
-            raiseXmlDepthError(xml);
+        if (!enterElement(xml, depth))
             break;
-        }
         if (!sawRoot) {
             sawRoot = true;
             if (!isNamed(xml, "madrix_patch")) {
@@ -462,18 +460,9 @@ ParsedFile parseXml(QIODevice *device, Mapper &mapper)
             stack.append(Tag::Other); // <patch>: look inside for the list
         }
     }
-    if (xml.hasError()) {
-        if (!sawRoot && xml.error() == QXmlStreamReader::PrematureEndOfDocumentError)
-            parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the document has no root element"));
-        else
-            parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 (line %2)"),
-                                        {xml.errorString(), qint64(xml.lineNumber())});
+    parsed.error = documentError(xml, sawRoot);
+    if (!parsed.error.isEmpty())
         return parsed;
-    }
-    if (!sawRoot) {
-        parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the document has no root element"));
-        return parsed;
-    }
     if (!sawList) {
         parsed.error = PatchMessage(QT_TRANSLATE_NOOP("TPatch", "the <fixture_list> element is missing"));
         return parsed;
@@ -524,11 +513,7 @@ bool parseInTwoHalves(const QByteArray &xml, Mapper &mapper, ParsedFile &parsed)
 
 PatchLoadResult emptyResult(const QString &sourcePath)
 {
-    PatchLoadResult result;
-    result.patch.formatLabel = QString::fromLatin1(kFormatLabel);
-    result.patch.sourceKind = SourceKind::Madrix;
-    result.patch.sourcePath = sourcePath;
-    return result;
+    return emptyImportResult(kFormatLabel, SourceKind::Madrix, sourcePath);
 }
 
 PatchLoadResult unreadable(const QString &fileName, const QString &sourcePath, const PatchMessage &reason)
@@ -559,21 +544,14 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
                               "%1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
                               "been verified against MADRIX yet. Check them on the monitor."),
             {f.rotatedMultiPixel}));
-    if (!f.ignoredChannels.isEmpty())
-        warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "Color channels the tester cannot show yet were ignored: %1"),
-            {f.ignoredChannels.joined()}));
+    warnIgnoredChannels(f.ignoredChannels, warnings);
     if (f.widePixels > 0)
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) have pixels whose color channels span "
                                                      "more than 6 DMX channels; only the first 6 are "
                                                      "shown."),
                          {f.widePixels}));
-    if (f.past512 > 0)
-        warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) run past DMX channel 512 of their "
-                                                     "universe; channels beyond 512 are not shown."),
-                         {f.past512}));
+    warnPast512(f.past512, warnings);
     if (f.dvi > 0)
         warnings.append(
             PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 DVI fixture(s) were skipped: they have no DMX "
@@ -584,15 +562,8 @@ void appendWarnings(const Findings &f, QVector<PatchMessage> &warnings)
             QT_TRANSLATE_NOOP("TPatch",
                               "%1 fixture(s) have no color channel the tester can show and were skipped."),
             {f.noColour}));
-    if (f.badUniverse > 0)
-        warnings.append(
-            PatchMessage(QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) use a universe that does not fit an "
-                                                     "Art-Net Port-Address and were skipped."),
-                         {f.badUniverse}));
-    if (f.incomplete > 0)
-        warnings.append(PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "%1 fixture(s) are incomplete in the file and were skipped."),
-            {f.incomplete}));
+    warnBadUniverse(f.badUniverse, warnings);
+    warnIncomplete(f.incomplete, warnings);
 }
 
 } // namespace
@@ -635,8 +606,7 @@ PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fil
     appendWarnings(mapper.findings, result.warnings);
 
     if (mapper.torvoverses.isEmpty()) {
-        result.error = PatchMessage(
-            QT_TRANSLATE_NOOP("TPatch", "\"%1\" contains no DMX fixtures that can be shown."), {fileName});
+        result.error = nothingToShow(fileName);
         return result;
     }
 
@@ -657,14 +627,7 @@ PatchLoadResult parseMadrixPatch(const QByteArray &fileBytes, const QString &fil
 
 PatchLoadResult readMadrixPatch(const QString &path)
 {
-    QByteArray bytes;
-    PatchMessage error;
-    if (!readPatchFile(path, &bytes, &error)) {
-        PatchLoadResult result = emptyResult(path);
-        result.error = error;
-        return result;
-    }
-    return parseMadrixPatch(bytes, QFileInfo(path).fileName(), path);
+    return readImport(path, parseMadrixPatch, kFormatLabel, SourceKind::Madrix);
 }
 
 } // namespace TPatch
