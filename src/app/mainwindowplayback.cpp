@@ -3,13 +3,13 @@
 #include "app/mainwindow.h"
 
 #include "live/captureconversion.h"
-#include "packetlog/capturereader.h"
-#include "patch/frameorder.h"
-#include "monitor/recordedframe.h"
+#include "live/recordedframe.h"
 #include "monitor/widgets/dmxinspector.h"
 #include "monitor/widgets/led3dview.h"
+#include "packetlog/capturereader.h"
 #include "panels/gpsplaybackpanel.h"
 #include "panels/playbackpanel.h"
+#include "patch/frameorder.h"
 #include "recording/playbackclock.h"
 #include "recording/recording.h"
 

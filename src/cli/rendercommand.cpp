@@ -1,9 +1,9 @@
 #include "cli/rendercommand.h"
 
 #include "cli/clicommon.h"
+#include "live/recordedframe.h"
 #include "monitor/monitorrender.h"
 #include "monitor/pixelcolourbuffer.h"
-#include "monitor/recordedframe.h"
 #include "patch/patchloader.h"
 #include "patch/pixellayout.h"
 #include "recording/recording.h"

@@ -1,4 +1,4 @@
-#include "monitor/recordedframe.h"
+#include "live/recordedframe.h"
 
 void applyRecordedFrame(PixelColourBuffer &buffer, const TPatch::PixelLayout &layout, const Recording &recording,
                         qint64 frame)
