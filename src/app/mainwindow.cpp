@@ -92,13 +92,13 @@ MainWindow::MainWindow(MoxStyle *style, QWidget *parent) : QMainWindow(parent), 
             Qt::QueuedConnection);
 
     // The measured-rate line is refreshed once a second while playing.
-    m_performanceTimer.setInterval(1000);
-    connect(&m_performanceTimer, &QTimer::timeout, this, &MainWindow::showPerformance);
+    m_run.performanceTimer.setInterval(1000);
+    connect(&m_run.performanceTimer, &QTimer::timeout, this, &MainWindow::showPerformance);
     // Live painting is never per packet: at most every 20 ms, when something arrived.
     m_liveRepaintTimer.setInterval(20);
     m_liveRepaintTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_liveRepaintTimer, &QTimer::timeout, this, &MainWindow::onLiveRepaint);
-    connect(&m_healthTimer, &QTimer::timeout, this, &MainWindow::refreshHealth);
+    connect(&m_health.timer, &QTimer::timeout, this, &MainWindow::refreshHealth);
     m_broadcastStatusTimer.setInterval(1000);
     connect(&m_broadcastStatusTimer, &QTimer::timeout, this, &MainWindow::refreshBroadcastStatus);
 }
@@ -189,23 +189,23 @@ QWidget *MainWindow::buildRightArea()
     layout->setContentsMargins(0, 0, 0, 0);
 
     auto *bar = new QHBoxLayout;
-    m_monitorHint = new QLabel(area);
-    m_monitorHint->setObjectName(QStringLiteral("monitorHint"));
-    m_monitorHint->setProperty("labelRole", QStringLiteral("hint"));
-    m_fitButton = new QPushButton(area);
-    m_snapshotButton = new QPushButton(area);
-    m_whiteCheck = new QCheckBox(area);
-    m_healthCheck = new QCheckBox(area);
-    m_healthCheck->setObjectName(QStringLiteral("healthOverlay"));
-    m_axesCheck = new QCheckBox(area);
-    m_fastDrawCheck = new QCheckBox(area);
-    m_autoOrbitCheck = new QCheckBox(area);
-    m_frontButton = new QPushButton(area);
-    m_resetButton = new QPushButton(area);
-    bar->addWidget(m_monitorHint, 1);
-    for (QWidget *w : std::initializer_list<QWidget *>{m_fitButton, m_snapshotButton, m_whiteCheck, m_healthCheck, m_axesCheck,
-                                                       m_fastDrawCheck, m_autoOrbitCheck, m_frontButton,
-                                                       m_resetButton})
+    m_bar.hint = new QLabel(area);
+    m_bar.hint->setObjectName(QStringLiteral("monitorHint"));
+    m_bar.hint->setProperty("labelRole", QStringLiteral("hint"));
+    m_bar.fit = new QPushButton(area);
+    m_bar.snapshot = new QPushButton(area);
+    m_bar.white = new QCheckBox(area);
+    m_bar.health = new QCheckBox(area);
+    m_bar.health->setObjectName(QStringLiteral("healthOverlay"));
+    m_bar.axes = new QCheckBox(area);
+    m_bar.fastDraw = new QCheckBox(area);
+    m_bar.autoOrbit = new QCheckBox(area);
+    m_bar.front = new QPushButton(area);
+    m_bar.reset = new QPushButton(area);
+    bar->addWidget(m_bar.hint, 1);
+    for (QWidget *w : std::initializer_list<QWidget *>{m_bar.fit, m_bar.snapshot, m_bar.white, m_bar.health, m_bar.axes,
+                                                       m_bar.fastDraw, m_bar.autoOrbit, m_bar.front,
+                                                       m_bar.reset})
         bar->addWidget(w);
     layout->addLayout(bar);
 
@@ -224,25 +224,25 @@ QWidget *MainWindow::buildRightArea()
 
 void MainWindow::wireMonitorBar()
 {
-    connect(m_fitButton, &QPushButton::clicked, this, &MainWindow::onFitToView);
+    connect(m_bar.fit, &QPushButton::clicked, this, &MainWindow::onFitToView);
     connect(m_monitorTabs, &QTabWidget::currentChanged, this, &MainWindow::pushMonitor);
-    connect(m_snapshotButton, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
-    connect(m_whiteCheck, &QCheckBox::toggled, this, &MainWindow::onWhiteChannelsToggled);
-    connect(m_healthCheck, &QCheckBox::toggled, this, &MainWindow::setHealthOverlay);
-    connect(m_axesCheck, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
-    connect(m_fastDrawCheck, &QCheckBox::toggled, this, &MainWindow::onFastDrawToggled);
-    connect(m_autoOrbitCheck, &QCheckBox::toggled, this, [this](bool on) {
+    connect(m_bar.snapshot, &QPushButton::clicked, this, &MainWindow::onSaveSnapshot);
+    connect(m_bar.white, &QCheckBox::toggled, this, &MainWindow::onWhiteChannelsToggled);
+    connect(m_bar.health, &QCheckBox::toggled, this, &MainWindow::setHealthOverlay);
+    connect(m_bar.axes, &QCheckBox::toggled, m_view3d, &Led3DView::setShowAxes);
+    connect(m_bar.fastDraw, &QCheckBox::toggled, this, &MainWindow::onFastDrawToggled);
+    connect(m_bar.autoOrbit, &QCheckBox::toggled, this, [this](bool on) {
         if (on)
             m_view3d->startAutoOrbit();
         else
             m_view3d->stopAutoOrbit();
     });
     connect(m_view3d, &Led3DView::autoMovementStopped, this, [this] {
-        const QSignalBlocker block(m_autoOrbitCheck);
-        m_autoOrbitCheck->setChecked(false);
+        const QSignalBlocker block(m_bar.autoOrbit);
+        m_bar.autoOrbit->setChecked(false);
     });
-    connect(m_frontButton, &QPushButton::clicked, this, [this] { m_view3d->setViewPreset(kFrontPreset); });
-    connect(m_resetButton, &QPushButton::clicked, m_view3d, &Led3DView::reset);
+    connect(m_bar.front, &QPushButton::clicked, this, [this] { m_view3d->setViewPreset(kFrontPreset); });
+    connect(m_bar.reset, &QPushButton::clicked, m_view3d, &Led3DView::reset);
     connect(m_view2d, &LedMonitorView::cellHovered, this, &MainWindow::onCellHovered);
     connect(m_dmxInspector, &DmxInspector::universeChanged, this, &MainWindow::onInspectedUniverseChanged);
 }
@@ -334,11 +334,11 @@ void MainWindow::clearLiveState()
 void MainWindow::onCellHovered(int pixelNumber)
 {
     if (pixelNumber < 0 || pixelNumber >= m_colours.colours().size()) {
-        m_monitorHint->clear();
+        m_bar.hint->clear();
         return;
     }
     const QString hint = PixelTexts::hoverHint(m_patch, m_layout, pixelNumber, m_colours.colours().at(pixelNumber));
-    m_monitorHint->setText(m_healthCheck->isChecked() ? hint + QStringLiteral("  |  ") + healthHoverText(pixelNumber)
+    m_bar.hint->setText(m_bar.health->isChecked() ? hint + QStringLiteral("  |  ") + healthHoverText(pixelNumber)
                                                       : hint);
 }
 
@@ -383,30 +383,30 @@ void MainWindow::retranslateUi()
     m_sideTabs->setTabText(DmxTab, tr("DMX"));
     m_dmxInspector->retranslate();
 
-    m_fitButton->setText(tr("Fit to view"));
-    m_snapshotButton->setText(tr("Snapshot"));
-    m_snapshotButton->setToolTip(tr("Save the current monitor image as a PNG file"));
-    m_whiteCheck->setText(tr("White channels"));
-    m_whiteCheck->setToolTip(
+    m_bar.fit->setText(tr("Fit to view"));
+    m_bar.snapshot->setText(tr("Snapshot"));
+    m_bar.snapshot->setToolTip(tr("Save the current monitor image as a PNG file"));
+    m_bar.white->setText(tr("White channels"));
+    m_bar.white->setToolTip(
         tr("Add W / CW / WW channel values to the pixel colour.\n\nOff by default: MOX derives the white channels "
            "FROM rgb, so there is no single correct way back. This is a visibility aid - without it, white-only "
            "fixtures stay black even while they are receiving data."));
-    m_healthCheck->setText(tr("Health"));
-    m_healthCheck->setToolTip(tr("Paint every fixture in the health colour of its universe: ok, unstable, "
+    m_bar.health->setText(tr("Health"));
+    m_bar.health->setToolTip(tr("Paint every fixture in the health colour of its universe: ok, unstable, "
                                  "conflict (several senders), stale (nothing for 4 s) or never received. "
                                  "Hover a fixture for its universe's figures."));
-    m_axesCheck->setText(tr("Axes"));
-    m_axesCheck->setToolTip(tr("Show the red / green / blue X-Y-Z arrows at the origin."));
-    m_fastDrawCheck->setText(tr("Fast draw"));
-    m_fastDrawCheck->setToolTip(tr("Draw LEDs as squares without antialiasing.\n\nRoughly 5x faster on large "
+    m_bar.axes->setText(tr("Axes"));
+    m_bar.axes->setToolTip(tr("Show the red / green / blue X-Y-Z arrows at the origin."));
+    m_bar.fastDraw->setText(tr("Fast draw"));
+    m_bar.fastDraw->setToolTip(tr("Draw LEDs as squares without antialiasing.\n\nRoughly 5x faster on large "
                                    "patches - use it when the 3D view cannot keep up with playback. Pixels look "
                                    "square instead of round."));
-    m_autoOrbitCheck->setText(tr("Auto orbit"));
-    m_autoOrbitCheck->setToolTip(
+    m_bar.autoOrbit->setText(tr("Auto orbit"));
+    m_bar.autoOrbit->setToolTip(
         tr("Swing the model through +-45 degrees on two axes.\nTouching the view with the mouse stops it."));
-    m_frontButton->setText(tr("Front"));
-    m_resetButton->setText(tr("Reset"));
-    m_resetButton->setToolTip(tr("Back to the default angle and distance"));
+    m_bar.front->setText(tr("Front"));
+    m_bar.reset->setText(tr("Reset"));
+    m_bar.reset->setToolTip(tr("Back to the default angle and distance"));
     m_monitorTabs->setTabText(0, tr("2D"));
     m_monitorTabs->setTabText(1, tr("3D"));
     retranslateMenus();
@@ -431,28 +431,28 @@ void MainWindow::showStatus(std::function<QString()> textProducer, int timeoutMs
 {
     std::function<QString()> producer = std::move(textProducer);
     const QString text = producer ? producer() : QString();
-    m_statusProducer = std::move(producer);
-    m_statusText = text;
-    m_statusTimeoutMs = timeoutMs;
-    m_statusShown.start();
+    m_status.producer = std::move(producer);
+    m_status.text = text;
+    m_status.timeoutMs = timeoutMs;
+    m_status.shown.start();
     statusBar()->showMessage(text, timeoutMs);
 }
 
 void MainWindow::retranslateStatus()
 {
-    if (!m_statusProducer)
+    if (!m_status.producer)
         return;
-    if (statusBar()->currentMessage() != m_statusText)
+    if (statusBar()->currentMessage() != m_status.text)
         return; // expired, or something else replaced it
     int remainingMs = 0;
-    if (m_statusTimeoutMs > 0) {
-        const qint64 left = m_statusTimeoutMs - m_statusShown.elapsed();
+    if (m_status.timeoutMs > 0) {
+        const qint64 left = m_status.timeoutMs - m_status.shown.elapsed();
         if (left < 1)
             return;
         remainingMs = int(left);
     }
-    m_statusText = m_statusProducer();
-    statusBar()->showMessage(m_statusText, remainingMs);
+    m_status.text = m_status.producer();
+    statusBar()->showMessage(m_status.text, remainingMs);
 }
 
 StoredSettings MainWindow::currentSettings() const
@@ -473,8 +473,8 @@ StoredSettings MainWindow::currentSettings() const
     v.broadcastRecordName = m_broadcastPanel->recordName();
     v.broadcastRecordFps = m_broadcastPanel->recordFps();
     v.playbackTab = m_playbackTabs->currentIndex();
-    v.whiteChannels = m_whiteCheck->isChecked();
-    v.fastDraw3D = m_fastDrawCheck->isChecked();
+    v.whiteChannels = m_bar.white->isChecked();
+    v.fastDraw3D = m_bar.fastDraw->isChecked();
     v.viewTab = m_monitorTabs->currentIndex();
     v.windowGeometry = saveGeometry();
     return v;
@@ -498,13 +498,13 @@ void MainWindow::loadSettings()
     m_broadcastPanel->setRecordFps(v.broadcastRecordFps);
     {
         // Restored values are not the user's toggles: no status messages, no saving.
-        const QSignalBlocker blockWhite(m_whiteCheck);
-        const QSignalBlocker blockFast(m_fastDrawCheck);
-        m_whiteCheck->setChecked(v.whiteChannels);
-        m_fastDrawCheck->setChecked(v.fastDraw3D);
+        const QSignalBlocker blockWhite(m_bar.white);
+        const QSignalBlocker blockFast(m_bar.fastDraw);
+        m_bar.white->setChecked(v.whiteChannels);
+        m_bar.fastDraw->setChecked(v.fastDraw3D);
     }
     m_colours.setWhiteEnabled(v.whiteChannels);
-    m_view3d->setFastDraw(m_fastDrawCheck->isChecked());
+    m_view3d->setFastDraw(m_bar.fastDraw->isChecked());
     m_monitorTabs->setCurrentIndex(v.viewTab);
     {
         // Restoring the tab is not a user's tab change: no tab-change handling.

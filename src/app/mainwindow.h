@@ -2,9 +2,8 @@
 
 #include "app/appsettings.h"
 #include "app/menutable.h"
-#include "live/healthoverlay.h"
+#include "app/workflowstate.h"
 #include "monitor/pixelcolourbuffer.h"
-#include "packetlog/capturesession.h"
 #include "patch/patchdata.h"
 #include "patch/patchloadresult.h"
 #include "patch/pixellayout.h"
@@ -29,7 +28,6 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
-
 class QStackedWidget;
 class QTabWidget;
 class BroadcastPanel;
@@ -41,12 +39,6 @@ class LedMonitorView;
 class LivePipeline;
 class MoxStyle;
 class PatchBar;
-class PacketLogWindow;
-class NodeDiscoveryWindow;
-class UniverseHealthWindow;
-namespace ArtNet {
-class NodeDiscovery;
-}
 class PatchSummaryPanel;
 class PlaybackClock;
 class PlaybackPanel;
@@ -56,15 +48,9 @@ class UpdateController;
 
 // The single main window: owns the side panels, the monitor views and the
 // status line, and is the only place where the subsystems meet. Panels emit
-// requests; the window decides, calls the cores and pushes state back.
-//
-// One class, its implementation split by workflow: mainwindow.cpp (frame,
-// status line, settings), mainwindowpatch.cpp (patch loading),
-// mainwindowplayback.cpp (recorded playback and the monitor bar),
-// mainwindowgps.cpp (GPS-Sync sets), mainwindowlive.cpp (live broadcast and
-// recording), mainwindowlog.cpp (the network log), mainwindowdiscovery.cpp
-// (node discovery), mainwindowhealth.cpp (network health), mainwindowmenus.cpp
-// (menus, recent lists, shortcuts, help, dropped files). GUI thread only.
+// requests; the window decides, calls the cores and pushes state back. One
+// class, its implementation in one file per workflow (src/app/README.md lists
+// them). GUI thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -273,16 +259,7 @@ private:
     DmxInspector *m_dmxInspector = nullptr;
 
     // Right area
-    QLabel *m_monitorHint = nullptr;
-    QPushButton *m_fitButton = nullptr;
-    QPushButton *m_snapshotButton = nullptr;
-    QCheckBox *m_whiteCheck = nullptr;
-    QCheckBox *m_healthCheck = nullptr;
-    QCheckBox *m_axesCheck = nullptr;
-    QCheckBox *m_fastDrawCheck = nullptr;
-    QCheckBox *m_autoOrbitCheck = nullptr;
-    QPushButton *m_frontButton = nullptr;
-    QPushButton *m_resetButton = nullptr;
+    MonitorBar m_bar;
     QTabWidget *m_monitorTabs = nullptr;
     LedMonitorView *m_view2d = nullptr;
     Led3DView *m_view3d = nullptr;
@@ -295,24 +272,12 @@ private:
     QList<QAction *> m_broadcastActions; // enabled in Live broadcast
     QPointer<QDialog> m_shortcutsDialog;
     Translator *m_translator = nullptr;
-    QPointer<PacketLogWindow> m_logWindow;     // the live log window
-    QPointer<PacketLogWindow> m_lastLogWindow; // the log window last active
-    QString m_networkLogPath;              // where "Save Network Log" writes
-    PacketLog::CaptureSession *m_capture = nullptr; // the live log window's adapter capture
-    QPointer<NodeDiscoveryWindow> m_discoveryWindow;
-    ArtNet::NodeDiscovery *m_discovery = nullptr;
-    QVector<PacketLog::CaptureAdapter> m_captureAdapters;
+    LogWorkflow m_log;
+    DiscoveryWorkflow m_discovery;
     std::unique_ptr<QTemporaryDir> m_convertedCapture; // a capture opened as a recording, made into a .tpx
     UpdateController *m_updates = nullptr;
 
-    // Network health: the last figures, the overlay's colours, a file's analysis.
-    QPointer<UniverseHealthWindow> m_healthWindow;
-    QTimer m_healthTimer;
-    QVector<Health::UniverseHealth> m_health;
-    QVector<QRgb> m_healthColours;
-    std::unique_ptr<Health::Analyser> m_recordedHealth;
-    int m_recordedHealthFps = 0;
-    QString m_recordedHealthError;
+    HealthWorkflow m_health;
     QString m_recordingSourcePath; // the file opened, a capture before its conversion
 
     MoxStyle *m_style = nullptr;
@@ -323,29 +288,15 @@ private:
     QStringList m_rememberedGpsPaths;
     QString m_importLogsFolder;
 
-    // Status line
-    std::function<QString()> m_statusProducer;
-    QString m_statusText;
-    int m_statusTimeoutMs = 0;
-    QElapsedTimer m_statusShown;
+    StatusLine m_status;
 
     // Paces playback on its own thread; owned through the QObject tree, stopped
     // and joined in the destructor before anything else goes.
     PlaybackClock *m_clock = nullptr;
-    // Every run of the clock ends with one finished signal, also a run we
-    // stopped ourselves; those are counted here and not reported as the end.
-    int m_stopsPending = 0;
-    // Ticks already queued when the window stops the clock arrive afterwards; they are dropped.
-    bool m_ticksWanted = false;
     qint64 m_currentFrame = 0;
     std::unique_ptr<Recording> m_recording;
     GpsSyncSet m_gpsSet;
-    // What the performance line shows: frames the clock skipped and the time
-    // one frame takes to evaluate and hand to the views.
-    qint64 m_lastTickFrame = -1;
-    qint64 m_droppedFrames = 0;
-    double m_msPerFrame = -1;
-    QTimer m_performanceTimer;
+    ClockRun m_run;
 
     TPatch::PatchData m_patch;
     QString m_patchPath;

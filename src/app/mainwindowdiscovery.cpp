@@ -16,18 +16,18 @@
 
 void MainWindow::showNodeDiscovery()
 {
-    if (!m_discoveryWindow) {
-        m_discoveryWindow = new NodeDiscoveryWindow(this);
-        m_discovery = new ArtNet::NodeDiscovery(this);
-        connect(m_discoveryWindow, &NodeDiscoveryWindow::scanRequested, this, &MainWindow::startDiscovery);
-        connect(m_discoveryWindow, &NodeDiscoveryWindow::stopRequested, this, [this] {
-            m_discovery->stop();
+    if (!m_discovery.window) {
+        m_discovery.window = new NodeDiscoveryWindow(this);
+        m_discovery.scan = new ArtNet::NodeDiscovery(this);
+        connect(m_discovery.window, &NodeDiscoveryWindow::scanRequested, this, &MainWindow::startDiscovery);
+        connect(m_discovery.window, &NodeDiscoveryWindow::stopRequested, this, [this] {
+            m_discovery.scan->stop();
             if (m_live)
                 m_live->setPollReplyTap(nullptr);
-            m_discoveryWindow->setScanning(false, tr("Stopped."));
+            m_discovery.window->setScanning(false, tr("Stopped."));
         });
-        connect(m_discoveryWindow, &NodeDiscoveryWindow::exportRequested, this, &MainWindow::exportDiscovery);
-        connect(m_discovery, &ArtNet::NodeDiscovery::updated, this, &MainWindow::refreshDiscovery);
+        connect(m_discovery.window, &NodeDiscoveryWindow::exportRequested, this, &MainWindow::exportDiscovery);
+        connect(m_discovery.scan, &ArtNet::NodeDiscovery::updated, this, &MainWindow::refreshDiscovery);
     }
     // Each interface's subnet broadcast, then the limited broadcast (asked again at every opening).
     QVector<QPair<QString, QString>> targets;
@@ -42,20 +42,20 @@ void MainWindow::showNodeDiscovery()
         }
     }
     targets.append({tr("255.255.255.255 (limited broadcast)"), QStringLiteral("255.255.255.255")});
-    if (!m_discovery->isRunning()) {
-        m_discoveryWindow->setTargets(targets);
+    if (!m_discovery.scan->isRunning()) {
+        m_discovery.window->setTargets(targets);
         refreshDiscovery();
     }
-    m_discoveryWindow->show();
-    m_discoveryWindow->raise();
-    m_discoveryWindow->activateWindow();
+    m_discovery.window->show();
+    m_discovery.window->raise();
+    m_discovery.window->activateWindow();
 }
 
 void MainWindow::startDiscovery(const QString &target)
 {
     QHostAddress address;
     if (!address.setAddress(target) || address.protocol() != QAbstractSocket::IPv4Protocol) {
-        m_discoveryWindow->setScanning(false, tr("\"%1\" is not an IPv4 address.").arg(target));
+        m_discovery.window->setScanning(false, tr("\"%1\" is not an IPv4 address.").arg(target));
         return;
     }
     // With the window's node on 6454, the replies come through the node's socket.
@@ -63,41 +63,41 @@ void MainWindow::startDiscovery(const QString &target)
     if (m_live) {
         m_live->setPollReplyTap(nodeListens ? std::function<void(quint32, QByteArrayView)>(
                                                   [this](quint32 sender, QByteArrayView datagram) {
-                                                      m_discovery->takeReply(sender, datagram);
+                                                      m_discovery.scan->takeReply(sender, datagram);
                                                   })
                                             : nullptr);
     }
     QString error;
-    if (!m_discovery->start(address, nodeListens, &error)) {
-        m_discoveryWindow->setScanning(false, tr("Cannot scan: %1").arg(error));
+    if (!m_discovery.scan->start(address, nodeListens, &error)) {
+        m_discovery.window->setScanning(false, tr("Cannot scan: %1").arg(error));
         return;
     }
-    m_discoveryWindow->setScanning(true, tr("Polling %1 every 2.5 s...").arg(target));
+    m_discovery.window->setScanning(true, tr("Polling %1 every 2.5 s...").arg(target));
     refreshDiscovery();
 }
 
 void MainWindow::refreshDiscovery()
 {
-    if (!m_discoveryWindow)
+    if (!m_discovery.window)
         return;
-    const QVector<ArtNet::DiscoveredDevice> devices = m_discovery->table().devices(m_discovery->nowMs());
+    const QVector<ArtNet::DiscoveredDevice> devices = m_discovery.scan->table().devices(m_discovery.scan->nowMs());
     const QVector<quint16> missing =
-        m_patchLoaded ? m_discovery->table().universesWithoutNode(advertisedUniverses()) : QVector<quint16>();
-    m_discoveryWindow->showDevices(devices, missing, m_patchLoaded);
+        m_patchLoaded ? m_discovery.scan->table().universesWithoutNode(advertisedUniverses()) : QVector<quint16>();
+    m_discovery.window->showDevices(devices, missing, m_patchLoaded);
 }
 
 void MainWindow::exportDiscovery()
 {
     const QString path = QFileDialog::getSaveFileName(
-        m_discoveryWindow, tr("Export Devices"),
+        m_discovery.window, tr("Export Devices"),
         QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(QStringLiteral("nodes.csv")),
         tr("CSV table (*.csv)"));
     if (path.isEmpty())
         return;
     QSaveFile file(path);
-    const QByteArray csv = ArtNet::devicesCsv(m_discovery->table().devices(m_discovery->nowMs()));
+    const QByteArray csv = ArtNet::devicesCsv(m_discovery.scan->table().devices(m_discovery.scan->nowMs()));
     if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
-        QMessageBox::warning(m_discoveryWindow, tr("Export Devices"),
+        QMessageBox::warning(m_discovery.window, tr("Export Devices"),
                              tr("Could not write %1: %2").arg(path, file.errorString()));
         return;
     }

@@ -35,7 +35,7 @@ constexpr int kHealthRefreshMs = 500;
 
 const QVector<QRgb> &MainWindow::shownColours() const
 {
-    return m_healthCheck->isChecked() ? m_healthColours : m_colours.colours();
+    return m_bar.health->isChecked() ? m_health.colours : m_colours.colours();
 }
 
 Health::StatePalette MainWindow::healthPalette() const
@@ -56,28 +56,28 @@ void MainWindow::setHealthOverlay(bool on)
     m_view2d->setColours(&shownColours());
     pushMonitor();
     onCellHovered(m_view2d->hoveredPixel());
-    if (on && !m_healthTimer.isActive())
-        m_healthTimer.start(kHealthRefreshMs);
+    if (on && !m_health.timer.isActive())
+        m_health.timer.start(kHealthRefreshMs);
 }
 
 void MainWindow::showUniverseHealth()
 {
-    if (!m_healthWindow) {
-        m_healthWindow = new UniverseHealthWindow(this);
-        connect(m_healthWindow, &UniverseHealthWindow::resetRequested, this, [this] {
+    if (!m_health.window) {
+        m_health.window = new UniverseHealthWindow(this);
+        connect(m_health.window, &UniverseHealthWindow::resetRequested, this, [this] {
             if (m_live)
                 m_live->resetHealth();
             refreshHealth();
         });
-        connect(m_healthWindow, &UniverseHealthWindow::exportRequested, this, &MainWindow::exportHealth);
+        connect(m_health.window, &UniverseHealthWindow::exportRequested, this, &MainWindow::exportHealth);
     }
-    m_healthWindow->setPalette(healthPalette());
-    m_healthWindow->show();
-    m_healthWindow->raise();
-    m_healthWindow->activateWindow();
+    m_health.window->setPalette(healthPalette());
+    m_health.window->show();
+    m_health.window->raise();
+    m_health.window->activateWindow();
     refreshHealth();
-    if (!m_healthTimer.isActive())
-        m_healthTimer.start(kHealthRefreshMs);
+    if (!m_health.timer.isActive())
+        m_health.timer.start(kHealthRefreshMs);
 }
 
 const Health::Analyser *MainWindow::recordedHealth(QString *source)
@@ -95,35 +95,35 @@ const Health::Analyser *MainWindow::recordedHealth(QString *source)
     const int fps = m_playbackPanel->fps();
     // Analysed once per file and frame rate: a capture from its packets, with
     // senders and sequence numbers; a recording from its frames.
-    if (!m_recordedHealth || m_recordedHealthFps != fps) {
-        m_recordedHealthFps = fps;
-        m_recordedHealthError.clear();
+    if (!m_health.recorded || m_health.recordedFps != fps) {
+        m_health.recordedFps = fps;
+        m_health.recordedError.clear();
         if (PacketLog::isCaptureFile(path)) {
             Health::FileHealth analysed = Health::analyseFile(path, fps);
-            m_recordedHealthError = analysed.error;
-            m_recordedHealth = std::make_unique<Health::Analyser>(std::move(analysed.analyser));
+            m_health.recordedError = analysed.error;
+            m_health.recorded = std::make_unique<Health::Analyser>(std::move(analysed.analyser));
         } else {
-            m_recordedHealth = std::make_unique<Health::Analyser>();
-            Health::analyseRecording(*m_recording, fps, m_recordedHealth.get());
+            m_health.recorded = std::make_unique<Health::Analyser>();
+            Health::analyseRecording(*m_recording, fps, m_health.recorded.get());
         }
     }
     const QString name = QFileInfo(path).fileName();
-    *source = m_recordedHealthError.isEmpty()
+    *source = m_health.recordedError.isEmpty()
                   ? (PacketLog::isCaptureFile(path)
                          ? tr("Capture %1, over the whole file.").arg(name)
                          : tr("Recording %1 at %2 fps, over the whole file (a recording keeps no senders or "
                               "sequence numbers).")
                                .arg(name)
                                .arg(fps))
-                  : tr("Capture %1 could not be read: %2").arg(name, m_recordedHealthError);
-    return m_recordedHealth.get();
+                  : tr("Capture %1 could not be read: %2").arg(name, m_health.recordedError);
+    return m_health.recorded.get();
 }
 
 void MainWindow::refreshHealth()
 {
-    const bool windowShown = m_healthWindow && m_healthWindow->isVisible();
-    if (!m_healthCheck->isChecked() && !windowShown) {
-        m_healthTimer.stop();
+    const bool windowShown = m_health.window && m_health.window->isVisible();
+    if (!m_bar.health->isChecked() && !windowShown) {
+        m_health.timer.stop();
         return;
     }
     const QVector<quint16> patched = m_patchLoaded ? advertisedUniverses() : QVector<quint16>();
@@ -147,36 +147,36 @@ void MainWindow::refreshHealth()
         nowNs = analyser ? analyser->lastTimeNs() : 0;
     }
     const Health::Analyser none;
-    m_health = (analyser ? *analyser : none).universes(nowNs, patched);
-    if (m_healthCheck->isChecked()) {
-        Health::paintStates(m_layout, m_health, healthPalette(), &m_healthColours);
+    m_health.figures = (analyser ? *analyser : none).universes(nowNs, patched);
+    if (m_bar.health->isChecked()) {
+        Health::paintStates(m_layout, m_health.figures, healthPalette(), &m_health.colours);
         pushMonitor();
         if (m_view2d->hoveredPixel() >= 0)
             onCellHovered(m_view2d->hoveredPixel());
     }
     if (windowShown)
-        m_healthWindow->showHealth(m_health, analyser ? analyser->sync() : Health::SyncHealth(), source, live);
+        m_health.window->showHealth(m_health.figures, analyser ? analyser->sync() : Health::SyncHealth(), source, live);
 }
 
 QString MainWindow::healthHoverText(int pixelNumber) const
 {
     const quint16 portAddress = m_layout.pixels.at(pixelNumber).portAddress;
-    const Health::UniverseHealth *universe = Health::findUniverse(m_health, portAddress);
+    const Health::UniverseHealth *universe = Health::findUniverse(m_health.figures, portAddress);
     return universe ? Health::figuresText(*universe) : Health::stateDisplayName(QStringLiteral("never"));
 }
 
 void MainWindow::exportHealth()
 {
     const QString path = QFileDialog::getSaveFileName(
-        m_healthWindow, tr("Export Universe Health"),
+        m_health.window, tr("Export Universe Health"),
         QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(QStringLiteral("health.csv")),
         tr("CSV table (*.csv)"));
     if (path.isEmpty())
         return;
     QSaveFile file(path);
-    const QByteArray csv = UniverseHealthModel::csv(m_health);
+    const QByteArray csv = UniverseHealthModel::csv(m_health.figures);
     if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
-        QMessageBox::warning(m_healthWindow, tr("Export Universe Health"),
+        QMessageBox::warning(m_health.window, tr("Export Universe Health"),
                              tr("Could not write %1: %2").arg(path, file.errorString()));
         return;
     }

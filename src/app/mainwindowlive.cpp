@@ -100,7 +100,7 @@ void MainWindow::onLiveRepaint()
         return;
     // Under the health overlay the views change with the health figures
     // (refreshHealth, twice a second), not with every frame.
-    if (m_healthCheck->isChecked()) {
+    if (m_bar.health->isChecked()) {
         pushInspector();
         return;
     }

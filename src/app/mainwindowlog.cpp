@@ -40,39 +40,39 @@ const SaveType kSaveTypes[] = {
 
 void MainWindow::showNetworkLog()
 {
-    if (!m_logWindow) {
+    if (!m_log.window) {
         auto *window = new PacketLogWindow(*m_style, this);
         window->setJournal(&ensureLive().journal());
         adoptLogWindow(window);
-        m_logWindow = window;
-        if (!m_capture) {
-            m_capture = new PacketLog::CaptureSession(this);
-            connect(m_capture, &PacketLog::CaptureSession::started, this, [this] {
-                if (m_logWindow)
-                    m_logWindow->setCaptureState(true, tr("Capturing on %1.").arg(m_capture->adapterName()));
+        m_log.window = window;
+        if (!m_log.capture) {
+            m_log.capture = new PacketLog::CaptureSession(this);
+            connect(m_log.capture, &PacketLog::CaptureSession::started, this, [this] {
+                if (m_log.window)
+                    m_log.window->setCaptureState(true, tr("Capturing on %1.").arg(m_log.capture->adapterName()));
             });
-            connect(m_capture, &PacketLog::CaptureSession::stopped, this, &MainWindow::onCaptureStopped);
+            connect(m_log.capture, &PacketLog::CaptureSession::stopped, this, &MainWindow::onCaptureStopped);
         }
-        window->setCaptureSession(m_capture);
+        window->setCaptureSession(m_log.capture);
         connect(window, &PacketLogWindow::captureRequested, this, &MainWindow::startCapture);
-        connect(window, &PacketLogWindow::captureStopRequested, m_capture, &PacketLog::CaptureSession::stop);
+        connect(window, &PacketLogWindow::captureStopRequested, m_log.capture, &PacketLog::CaptureSession::stop);
     }
     // Asked again at every opening: an adapter plugged in meanwhile is offered.
-    if (!m_capture->isRunning()) {
+    if (!m_log.capture->isRunning()) {
         PacketLog::LogMessage error;
-        if (!PacketLog::listCaptureAdapters(&m_captureAdapters, &error))
-            m_captureAdapters.clear();
-        m_logWindow->setCaptureAdapters(m_captureAdapters, error.text());
+        if (!PacketLog::listCaptureAdapters(&m_log.adapters, &error))
+            m_log.adapters.clear();
+        m_log.window->setCaptureAdapters(m_log.adapters, error.text());
     }
-    m_logWindow->show();
-    m_logWindow->raise();
-    m_logWindow->activateWindow();
+    m_log.window->show();
+    m_log.window->raise();
+    m_log.window->activateWindow();
 }
 
 void MainWindow::openNetworkLog()
 {
     const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open Network Log"), QFileInfo(m_networkLogPath).absolutePath(),
+        QFileDialog::getOpenFileName(this, tr("Open Network Log"), QFileInfo(m_log.path).absolutePath(),
                                      tr("Network logs and captures (*.tlog *.pcapng *.pcap);;All files (*)"));
     if (!path.isEmpty())
         openNetworkLogFile(path);
@@ -80,22 +80,22 @@ void MainWindow::openNetworkLog()
 
 void MainWindow::startCapture(const QString &adapterName)
 {
-    auto adapter = std::find_if(m_captureAdapters.cbegin(), m_captureAdapters.cend(),
+    auto adapter = std::find_if(m_log.adapters.cbegin(), m_log.adapters.cend(),
                                 [&adapterName](const auto &a) { return a.name == adapterName; });
-    if (adapter == m_captureAdapters.cend() || !m_logWindow)
+    if (adapter == m_log.adapters.cend() || !m_log.window)
         return;
-    m_logWindow->setCaptureState(true, tr("Starting the capture on %1...").arg(adapterName));
-    m_capture->start(*adapter);
+    m_log.window->setCaptureState(true, tr("Starting the capture on %1...").arg(adapterName));
+    m_log.capture->start(*adapter);
 }
 
 void MainWindow::onCaptureStopped(const PacketLog::LogMessage &error)
 {
-    const QString name = m_capture->adapterName();
-    const qint64 count = m_capture->recordCount();
-    const qint64 dropped = m_capture->dropped();
-    if (m_logWindow) {
-        m_logWindow->poll(); // the last packets before the list stops taking them
-        m_logWindow->setCaptureState(
+    const QString name = m_log.capture->adapterName();
+    const qint64 count = m_log.capture->recordCount();
+    const qint64 dropped = m_log.capture->dropped();
+    if (m_log.window) {
+        m_log.window->poll(); // the last packets before the list stops taking them
+        m_log.window->setCaptureState(
             false, error.isEmpty() ? tr("Capture on %1 stopped: %2 packets, %3 dropped by the system.")
                                          .arg(name)
                                          .arg(count)
@@ -105,7 +105,7 @@ void MainWindow::onCaptureStopped(const PacketLog::LogMessage &error)
     if (!error.isEmpty()) {
         // Not modal: the list keeps what was captured and the user reads on.
         auto *box = new QMessageBox(QMessageBox::Warning, tr("Network Log"), error.text(), QMessageBox::Ok,
-                                    m_logWindow ? static_cast<QWidget *>(m_logWindow) : this);
+                                    m_log.window ? static_cast<QWidget *>(m_log.window) : this);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();
     }
@@ -154,7 +154,7 @@ PacketLogWindow *MainWindow::logWindowToSave() const
     if (auto *active = qobject_cast<PacketLogWindow *>(QApplication::activeWindow()))
         return active;
     // Chosen from the main window's menu: the log window the user was in last.
-    return m_lastLogWindow ? m_lastLogWindow.data() : m_logWindow.data();
+    return m_log.lastWindow ? m_log.lastWindow.data() : m_log.window.data();
 }
 
 void MainWindow::adoptLogWindow(PacketLogWindow *window)
@@ -166,21 +166,21 @@ void MainWindow::adoptLogWindow(PacketLogWindow *window)
         for (PacketLogWindow *other : findChildren<PacketLogWindow *>())
             other->filterBar()->setRecentFilters(filters);
     });
-    connect(window, &PacketLogWindow::activated, this, [this, window] { m_lastLogWindow = window; });
+    connect(window, &PacketLogWindow::activated, this, [this, window] { m_log.lastWindow = window; });
     // Ctrl+S and Ctrl+Shift+S work in the log window too, and save that window.
     window->addAction(menuAction("Save Network Log"));
     window->addAction(menuAction("Save Network Log As..."));
-    m_lastLogWindow = window;
+    m_log.lastWindow = window;
 }
 
 void MainWindow::saveNetworkLog()
 {
     // The live log goes on to the file it was saved to; anything else asks where.
-    if (m_networkLogPath.isEmpty() || !m_logWindow || logWindowToSave() != m_logWindow) {
+    if (m_log.path.isEmpty() || !m_log.window || logWindowToSave() != m_log.window) {
         saveNetworkLogAs();
         return;
     }
-    saveLog(m_logWindow, m_networkLogPath, QStringLiteral("tlog"));
+    saveLog(m_log.window, m_log.path, QStringLiteral("tlog"));
 }
 
 void MainWindow::saveNetworkLogAs()
@@ -189,15 +189,15 @@ void MainWindow::saveNetworkLogAs()
     if (!window) {
         // The live log holds what the node saw since the program started listening.
         showNetworkLog();
-        window = m_logWindow;
+        window = m_log.window;
     }
     QStringList filters;
     for (const SaveType &type : kSaveTypes)
         filters << tr(type.filter);
-    const QString start = m_networkLogPath.isEmpty()
+    const QString start = m_log.path.isEmpty()
                               ? QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
                                     .filePath(QStringLiteral("network.tlog"))
-                              : m_networkLogPath;
+                              : m_log.path;
     QString chosenFilter = filters.first();
     QString path = QFileDialog::getSaveFileName(this, tr("Save Network Log As"), start,
                                                 filters.join(QStringLiteral(";;")), &chosenFilter);
@@ -212,8 +212,8 @@ void MainWindow::saveNetworkLogAs()
     if (suffix.isEmpty())
         path += QLatin1Char('.') + QLatin1String(type->suffix);
     if (saveLog(window, path, QString::fromLatin1(type->format)) && type->format == QLatin1String("tlog") &&
-        window == m_logWindow)
-        m_networkLogPath = path;
+        window == m_log.window)
+        m_log.path = path;
 }
 
 bool MainWindow::saveLog(PacketLogWindow *window, const QString &path, const QString &formatName)

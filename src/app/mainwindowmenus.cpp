@@ -190,20 +190,20 @@ void MainWindow::buildMenus()
     connect(m_menus.addEntry(camera, QT_TR_NOOP("Reset Camera"), QKeySequence()), &QAction::triggered,
             m_view3d, &Led3DView::reset);
     // These mirror the monitor bar's boxes: the box is the state, the entry clicks it.
-    for (const auto &[text, box] : {std::pair{QT_TR_NOOP("Show Axes"), m_axesCheck},
-                                    std::pair{QT_TR_NOOP("Fast Draw"), m_fastDrawCheck},
-                                    std::pair{QT_TR_NOOP("Auto Orbit"), m_autoOrbitCheck}}) {
+    for (const auto &[text, box] : {std::pair{QT_TR_NOOP("Show Axes"), m_bar.axes},
+                                    std::pair{QT_TR_NOOP("Fast Draw"), m_bar.fastDraw},
+                                    std::pair{QT_TR_NOOP("Auto Orbit"), m_bar.autoOrbit}}) {
         QAction *action = m_menus.addEntry(camera, text, QKeySequence());
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [box = box] { box->click(); });
     }
     QAction *white = m_menus.addEntry(view, QT_TR_NOOP("White Channels"), QKeySequence());
     white->setCheckable(true);
-    connect(white, &QAction::triggered, this, [this] { m_whiteCheck->click(); });
+    connect(white, &QAction::triggered, this, [this] { m_bar.white->click(); });
     QAction *health = m_menus.addEntry(view, QT_TR_NOOP("Health Overlay"), QKeySequence(QStringLiteral("Ctrl+H")),
                                        QT_TR_NOOP("Paint every fixture in the health colour of its universe."));
     health->setCheckable(true);
-    connect(health, &QAction::triggered, this, [this] { m_healthCheck->click(); });
+    connect(health, &QAction::triggered, this, [this] { m_bar.health->click(); });
     connect(m_menus.addEntry(view, QT_TR_NOOP("Universe Health..."), QKeySequence(QStringLiteral("Ctrl+Shift+H")),
                              QT_TR_NOOP("Per universe and sender: rate, lost and late packets, conflicts, ArtSync.")),
             &QAction::triggered, this, &MainWindow::showUniverseHealth);
@@ -303,7 +303,7 @@ void MainWindow::buildMenus()
     for (QMenu *menu : menuBar()->findChildren<QMenu *>())
         connect(menu, &QMenu::aboutToShow, this, &MainWindow::syncMenuChecks);
     // The boxes change the state the entries mirror; keyboard users see it without opening a menu.
-    for (QCheckBox *box : {m_whiteCheck, m_healthCheck, m_axesCheck, m_fastDrawCheck, m_autoOrbitCheck})
+    for (QCheckBox *box : {m_bar.white, m_bar.health, m_bar.axes, m_bar.fastDraw, m_bar.autoOrbit})
         connect(box, &QCheckBox::toggled, this, &MainWindow::syncMenuChecks);
     connect(m_monitorTabs, &QTabWidget::currentChanged, this, &MainWindow::syncMenuChecks);
     connect(m_playbackTabs, &QTabWidget::currentChanged, this, &MainWindow::syncMenuChecks);
@@ -329,11 +329,11 @@ void MainWindow::syncMenuChecks()
     };
     check("2D Monitor", m_monitorTabs->currentIndex() == View2DTab);
     check("3D Monitor", m_monitorTabs->currentIndex() == View3DTab);
-    check("Show Axes", m_axesCheck->isChecked());
-    check("Fast Draw", m_fastDrawCheck->isChecked());
-    check("Auto Orbit", m_autoOrbitCheck->isChecked());
-    check("White Channels", m_whiteCheck->isChecked());
-    check("Health Overlay", m_healthCheck->isChecked());
+    check("Show Axes", m_bar.axes->isChecked());
+    check("Fast Draw", m_bar.fastDraw->isChecked());
+    check("Auto Orbit", m_bar.autoOrbit->isChecked());
+    check("White Channels", m_bar.white->isChecked());
+    check("Health Overlay", m_bar.health->isChecked());
     check("Full Screen", isFullScreen());
     check("Loop", m_playbackTabs->currentIndex() == GpsTab ? m_gpsPanel->loop() : m_playbackPanel->loop());
     check("Standard Art-Net", m_playbackTabs->currentIndex() == StandardTab);
@@ -496,8 +496,8 @@ void MainWindow::applyTheme(const QString &id)
     m_style->install(*qApp);
     const QString applied = m_style->currentThemeId();
     openSettings()->setValue(SettingsKey::theme, applied);
-    if (m_healthWindow)
-        m_healthWindow->setPalette(healthPalette());
+    if (m_health.window)
+        m_health.window->setPalette(healthPalette());
     refreshHealth();
     showStatus([applied] { return tr("Interface theme: %1").arg(MoxStyle::themeDisplayName(applied)); },
                4000);

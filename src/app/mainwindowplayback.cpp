@@ -65,12 +65,12 @@ bool MainWindow::refuseWithoutSource()
 
 void MainWindow::stopClock()
 {
-    m_ticksWanted = false;
+    m_run.ticksWanted = false;
     if (m_clock->isPlaying()) {
-        ++m_stopsPending; // its finished signal is ours, not the end of the recording
+        ++m_run.stopsPending; // its finished signal is ours, not the end of the recording
         m_clock->stop();
     }
-    m_performanceTimer.stop();
+    m_run.performanceTimer.stop();
     m_playbackPanel->setPlaying(false);
     m_gpsPanel->setPlaying(false);
 }
@@ -93,11 +93,11 @@ void MainWindow::onPlayPause()
     m_clock->setLoop(gps ? m_gpsPanel->loop() : m_playbackPanel->loop());
     m_clock->setFrameCount(currentSourceFrames());
     m_clock->seek(m_currentFrame);
-    m_lastTickFrame = -1;
-    m_droppedFrames = 0;
-    m_ticksWanted = true;
+    m_run.lastTickFrame = -1;
+    m_run.droppedFrames = 0;
+    m_run.ticksWanted = true;
     m_clock->play();
-    m_performanceTimer.start();
+    m_run.performanceTimer.start();
     if (gps) {
         m_gpsPanel->setPlaying(true);
         const int recordings = m_gpsSet.groupCount();
@@ -110,8 +110,8 @@ void MainWindow::onPlayPause()
 
 void MainWindow::onPlaybackFinished()
 {
-    if (m_stopsPending > 0) {
-        --m_stopsPending; // a run we stopped ourselves
+    if (m_run.stopsPending > 0) {
+        --m_run.stopsPending; // a run we stopped ourselves
         return;
     }
     if (m_clock->isPlaying())
@@ -222,7 +222,7 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
         capturePackets = converted.dmxPackets;
     }
     const RecordingLoadResult result = m_recording->load(loadPath, m_patchLoaded ? &m_patch : nullptr);
-    m_recordedHealth.reset();
+    m_health.recorded.reset();
     m_recordingSourcePath = path;
     refreshHealth();
     m_playbackPanel->setFrameCount(m_recording->frameCount());
@@ -284,21 +284,21 @@ void MainWindow::onRecordingLoadRequested(const QString &path)
 
 void MainWindow::onFrameTick(qint64 frame)
 {
-    if (!m_ticksWanted) {
+    if (!m_run.ticksWanted) {
         m_clock->acknowledge(); // queued before a stop: the frame shown stays
         return;
     }
     // A jump forward of more than one frame means the clock dropped frames
     // while this thread was busy; a jump back is a loop or a seek.
-    if (m_lastTickFrame >= 0 && frame > m_lastTickFrame + 1)
-        m_droppedFrames += frame - m_lastTickFrame - 1;
-    m_lastTickFrame = frame;
+    if (m_run.lastTickFrame >= 0 && frame > m_run.lastTickFrame + 1)
+        m_run.droppedFrames += frame - m_run.lastTickFrame - 1;
+    m_run.lastTickFrame = frame;
     QElapsedTimer took;
     took.start();
     showFrame(frame);
     const double ms = double(took.nsecsElapsed()) / 1e6;
     // Smoothed, so the line reads steadily at a glance.
-    m_msPerFrame = m_msPerFrame < 0 ? ms : 0.9 * m_msPerFrame + 0.1 * ms;
+    m_run.msPerFrame = m_run.msPerFrame < 0 ? ms : 0.9 * m_run.msPerFrame + 0.1 * ms;
     m_clock->acknowledge();
 }
 
@@ -324,9 +324,9 @@ void MainWindow::showPerformance()
 {
     const double measured = m_clock->measuredFps();
     if (isGpsTab())
-        m_gpsPanel->setPerformance(measured, m_droppedFrames, m_msPerFrame);
+        m_gpsPanel->setPerformance(measured, m_run.droppedFrames, m_run.msPerFrame);
     else
-        m_playbackPanel->setPerformance(measured, m_droppedFrames, m_msPerFrame);
+        m_playbackPanel->setPerformance(measured, m_run.droppedFrames, m_run.msPerFrame);
 }
 
 void MainWindow::onWhiteChannelsToggled(bool on)
