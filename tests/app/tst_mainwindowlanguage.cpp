@@ -1,8 +1,5 @@
-// The program in German, French and Spanish: with the demo loaded and the
-// shortcut table open, switching the language leaves no English source text
-// on any control, menu or header, the timed status message comes back
-// translated, and switching back restores English. The expected texts come
-// from the translation files themselves.
+// German, French, Spanish: no English source text left on any control, menu or header (the expected
+// texts from the translation files), the timed status message translated, and back to English.
 #include "i18n/translator.h"
 #include "windowdriver.h"
 
@@ -100,7 +97,6 @@ void TestMainWindowLanguage::everyTextTranslatedAndBack()
     w.show();
     w.openFiles(kDemoPatch, kDemoRecording);
     w.menuAction("Keyboard Shortcuts")->trigger();
-
     for (const QString &language : {QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es")}) {
         const QHash<QString, QString> translated = dictionary(language);
         QVERIFY2(translated.size() > 400, qPrintable(language));
@@ -117,7 +113,6 @@ void TestMainWindowLanguage::everyTextTranslatedAndBack()
         QVERIFY2(english.isEmpty(),
                  qPrintable(language + QStringLiteral(" still shows\n") + english.join('\n')));
     }
-
     translator.applyLanguage(QStringLiteral("en"));
     QCoreApplication::processEvents();
     QCOMPARE(w.menuBar()->actions().first()->text(), QStringLiteral("&File"));

@@ -1,33 +1,28 @@
-// The live workflow on real sockets: runs only inside the private network
-// namespace (label "network"), where the window's node listens on talu0 and a
-// test controller sends from talu1.
+// The live workflow on real sockets, only inside the private network namespace (label "network"):
+// the window's node listens on talu0, a test controller sends from talu1.
 #include "artnet/artnetpacket.h"
 #include "artnet/widgets/broadcastpanel.h"
+#include "artnet/widgets/nodediscoverywindow.h"
 #include "live/livepipeline.h"
+#include "live/widgets/universehealthwindow.h"
+#include "monitor/widgets/ledcanvasitem.h"
+#include "monitor/widgets/ledmonitorview.h"
 #include "netnsguard.h"
+#include "packetlog/widgets/packetlistmodel.h"
+#include "packetlog/widgets/packetlogwindow.h"
 #include "panels/statuslabel.h"
 #include "recording/recording.h"
+#include "style/moxstyle.h"
 #include "testfiles.h"
 #include "windowdriver.h"
 
 #include <QComboBox>
-#include <QLineEdit>
-#include <QRadioButton>
 #include <QSpinBox>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QUdpSocket>
-
-#include "artnet/widgets/nodediscoverywindow.h"
-#include "live/widgets/universehealthwindow.h"
-#include "monitor/widgets/ledcanvasitem.h"
-#include "monitor/widgets/ledmonitorview.h"
-#include "style/moxstyle.h"
-#include "packetlog/widgets/packetlistmodel.h"
-#include "packetlog/widgets/packetlogwindow.h"
-
 #include <QTreeView>
 #include <QTreeWidget>
+#include <QUdpSocket>
 
 using namespace WindowDriver;
 
@@ -37,13 +32,13 @@ const QHostAddress kNodeAddress(QStringLiteral("192.0.2.1"));
 const QHostAddress kControllerAddress(QStringLiteral("192.0.2.2"));
 constexpr quint16 kPort = 26454;
 
-// The window in Live broadcast, listening on talu0's address at kPort.
-void startListening(MainWindow &w)
+// The window in Live broadcast, listening on address (talu0's by default) at port.
+void startListening(MainWindow &w, const QString &address = kNodeAddress.toString(), quint16 port = kPort)
 {
     click(&w, QStringLiteral("Live broadcast"));
     auto *panel = w.findChild<BroadcastPanel *>();
-    panel->setAddress(kNodeAddress.toString());
-    panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(kPort);
+    panel->setAddress(address);
+    panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(port);
     click(panel, QStringLiteral("Start listening"));
 }
 
@@ -79,11 +74,9 @@ void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
              QStringLiteral("Listening on 192.0.2.1:%1, advertising 15 universe(s).").arg(kPort));
     QCOMPARE(status(w), QStringLiteral("Art-Net node active on 192.0.2.1."));
     QVERIFY(button(panel, QStringLiteral("Stop listening")));
-
     w.menuAction("Network Log...")->trigger();
     auto *log = w.findChild<PacketLogWindow *>();
     QVERIFY(log && log->isVisible());
-
     QUdpSocket controller;
     QVERIFY(controller.bind(kControllerAddress, 0));
     // A poll to the subnet broadcast is answered: the node hears its segment.
@@ -110,7 +103,6 @@ void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
     const QVector<int> &lit = w.pixelLayout().pixelsForPortAddress(0x0000);
     QVERIFY(!lit.isEmpty());
     QVERIFY(w.colourBuffer().colours().at(lit.at(1)) != PixelColourBuffer::kDark);
-
     click(panel, QStringLiteral("Stop recording"));
     QCOMPARE(panel->recordMessageLabel()->text().left(6), QStringLiteral("Saved "));
     Recording recorded;
@@ -137,7 +129,6 @@ void TestMainWindowLive::liveDmxLightsTheMonitorAndIsRecorded()
     QVERIFY(seen.count(QStringLiteral("in ArtDmx")) >= 1); // repeated frames are collapsed
     const int dmxRow = int(seen.indexOf(QStringLiteral("in ArtDmx")));
     QCOMPARE(log->model()->recordAt(dmxRow).srcIp, kControllerAddress.toIPv4Address());
-
     click(panel, QStringLiteral("Stop listening"));
     QCOMPARE(panel->listenMessageLabel()->text(), QStringLiteral("Not listening."));
     QVERIFY(!w.livePipeline()->node().isRunning());
@@ -191,13 +182,8 @@ void TestMainWindowLive::recordingRefusals()
 void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
 {
     MainWindow w;
-    click(&w, QStringLiteral("Live broadcast"));
-    auto *panel = w.findChild<BroadcastPanel *>();
-    panel->setAddress(QString()); // any address: a second socket on 6454 would take its unicast
-    panel->findChild<QSpinBox *>(QStringLiteral("listenPort"))->setValue(6454);
-    click(panel, QStringLiteral("Start listening"));
-    QVERIFY(button(panel, QStringLiteral("Stop listening")));
-
+    startListening(w, QString(), 6454); // any address: a second socket on 6454 would take its unicast
+    QVERIFY(button(w.findChild<BroadcastPanel *>(), QStringLiteral("Stop listening")));
     w.menuAction("Node Discovery (ArtPoll Scan)...")->trigger();
     auto *discovery = w.findChild<NodeDiscoveryWindow *>();
     QVERIFY(discovery && discovery->isVisible());
@@ -206,8 +192,7 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     target->setCurrentIndex(target->findData(QStringLiteral("192.0.2.255")));
     auto *scan = discovery->findChild<QPushButton *>(QStringLiteral("scanButton"));
     QTest::mouseClick(scan, Qt::LeftButton);
-    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(),
-             QStringLiteral("Polling 192.0.2.255 every 2.5 s..."));
+    QCOMPARE(labelText(discovery, "discoveryState"), QStringLiteral("Polling 192.0.2.255 every 2.5 s..."));
     QCOMPARE(scan->text(), QStringLiteral("Stop"));
     QTreeWidget *table = discovery->table();
     QTRY_COMPARE(table->topLevelItemCount(), 1);
@@ -218,7 +203,7 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     QCOMPARE(ours->text(NodeDiscoveryWindow::StateColumn), QStringLiteral("this program · 1 finding(s)"));
     QCOMPARE(ours->child(1)->text(0),
              QStringLiteral("Finding: Its IP field says 0.0.0.0, but the replies come from 192.0.2.1."));
-    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("universesWithoutNode"))->text(),
+    QCOMPARE(labelText(discovery, "universesWithoutNode"),
              QStringLiteral("Load a patch to see which of its universes no device outputs."));
     // The scan opened no second socket on the node's port: unicast DMX still reaches the node.
     QUdpSocket console;
@@ -227,7 +212,7 @@ void TestMainWindowLive::nodeDiscoveryFindsTheWindowsOwnNode()
     QTRY_COMPARE(w.livePipeline()->node().stats().dmxPackets, quint64(1));
     QTest::mouseClick(scan, Qt::LeftButton);
     QCOMPARE(scan->text(), QStringLiteral("Scan"));
-    QCOMPARE(discovery->findChild<QLabel *>(QStringLiteral("discoveryState"))->text(), QStringLiteral("Stopped."));
+    QCOMPARE(labelText(discovery, "discoveryState"), QStringLiteral("Stopped."));
 }
 
 void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
@@ -245,7 +230,6 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     controller.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
     second.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
     QTRY_COMPARE(w.livePipeline()->packetsApplied(), qint64(7));
-
     click(&w, QStringLiteral("Health"));
     auto *view = w.findChild<LedMonitorView *>();
     const auto shownColourOf = [&](quint16 universe) {
@@ -257,15 +241,14 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     QCOMPARE(shownColourOf(2), theme.colour(QStringLiteral("healthNever")).rgba());
     // Hovering a fixture adds its universe's figures to the hint line.
     emit view->cellHovered(w.pixelLayout().pixelsForPortAddress(0).at(0));
-    const QString figures = w.findChild<QLabel *>(QStringLiteral("monitorHint"))->text().section(QStringLiteral("  |  "), 1);
+    const QString figures = labelText(&w, "monitorHint").section(QStringLiteral("  |  "), 1);
     QVERIFY2(figures.startsWith(QStringLiteral("unstable · 1 sender(s) · ")) &&
                  figures.contains(QStringLiteral(" fps · 1 lost · 0 out of order · 0 duplicates · last ")),
              qPrintable(figures));
-
     w.menuAction("Universe Health...")->trigger();
     auto *health = w.findChild<UniverseHealthWindow *>();
     QVERIFY(health && health->isVisible());
-    const auto label = [health](const char *name) { return health->findChild<QLabel *>(QLatin1String(name))->text(); };
+    const auto label = [health](const char *name) { return labelText(health, name); };
     QCOMPARE(label("healthSource"), QStringLiteral("Live: the node on 192.0.2.1:%1, fps over the last second.").arg(kPort));
     QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 13 never · 1 conflict · 1 unstable"));
     QCOMPARE(label("healthSync"), QStringLiteral("No ArtSync seen."));

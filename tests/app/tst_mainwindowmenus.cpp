@@ -1,7 +1,5 @@
-// The menu bar as a user meets it: every entry in order with its shortcut,
-// icon and enabled state per source mode, the recent lists, the shortcut
-// table, frame stepping, the entries that mirror the monitor bar, snapshots,
-// the help entries and files dropped on the window.
+// The menu bar as a user meets it: every entry with its shortcut, icon and state per source mode, and
+// what the entries do (recent lists, frames, monitor bar, snapshots, help, dialogs, network logs, drops).
 #include "app/updater.h"
 #include "i18n/translator.h"
 #include "packetlog/logfiles.h"
@@ -14,6 +12,7 @@
 #include "talu_version.h"
 #include "windowdriver.h"
 #include "capturebuilder.h"
+#include "testfiles.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -147,7 +146,6 @@ private slots:
     void init() { clearSettings(); }
     void everyEntryInOrderWithShortcutAndState();
     void recentListsKeepEightNewestFirst();
-    void shortcutTableListsEveryShortcut();
     void framesStepAndGoTo();
     void entriesMirrorTheMonitorBar();
     void snapshotProposal();
@@ -167,7 +165,6 @@ void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
     for (QAction *top : w.menuBar()->actions())
         menus << top->text();
     QCOMPARE(menus, (QStringList{"&File", "&Edit", "&View", "&Playback", "&Broadcast", "&Help"}));
-
     auto *live = button<QRadioButton>(&w, QStringLiteral("Live broadcast"));
     for (const bool recorded : {true, false}) {
         if (!recorded)
@@ -180,10 +177,8 @@ void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
             QCOMPARE(menu, QString::fromLatin1(e.menu));
             QCOMPARE(action->text(), QString::fromLatin1(e.text));
             QCOMPARE(action->shortcut(), QKeySequence(QString::fromLatin1(e.shortcut)));
-            QVERIFY2(action->icon().pixmap(16).isNull() != e.icon,
-                     qPrintable(where)); // the resource is there
-            const bool enabled =
-                e.state == 'a' || (e.state == 'r' && recorded) || (e.state == 'l' && !recorded);
+            QVERIFY2(action->icon().pixmap(16).isNull() != e.icon, qPrintable(where)); // resource found
+            const bool enabled = e.state == 'a' || e.state == (recorded ? 'r' : 'l');
             QVERIFY2(action->isEnabled() == enabled, qPrintable(where));
             if (e.state == 'p')
                 QCOMPARE(action->toolTip(), QStringLiteral("Planned for a future version."));
@@ -201,63 +196,8 @@ void TestMainWindowMenus::everyEntryInOrderWithShortcutAndState()
     // Play / Pause in Live broadcast says why it does nothing.
     w.menuAction("Play / Pause")->trigger();
     QCOMPARE(status(w), QStringLiteral("Playback controls work in Recorded playback mode."));
-}
 
-void TestMainWindowMenus::recentListsKeepEightNewestFirst()
-{
-    QTemporaryDir dir;
-    MainWindow w;
-    QCOMPARE(recentTexts(w, false), QStringList{"(empty) (disabled)"});
-
-    // Loading the same patch twice through the patch bar leaves one entry.
-    const QString patch = dir.filePath(QStringLiteral("show.tpatch"));
-    QVERIFY(QFile::copy(kDemoPatch, patch));
-    uploadPatch(w, patch);
-    uploadPatch(w, patch);
-    const QString first = QStringLiteral("&1  ") + QDir::toNativeSeparators(patch);
-    QCOMPARE(recentTexts(w, true), (QStringList{first, "-", "Clear List"}));
-    click(w.findChild<PlaybackPanel *>(), QStringLiteral("Load"));
-    QCOMPARE(recentTexts(w, false).size(), 1); // an empty path loads nothing
-    w.findChild<PlaybackPanel *>()->setPath(kDemoRecording);
-    click(w.findChild<PlaybackPanel *>(), QStringLiteral("Load"));
-    QCOMPARE(recentTexts(w, false).first(),
-             QStringLiteral("&1  ") + QDir::toNativeSeparators(kDemoRecording));
-
-    // Eight more: the first one falls off, the newest is on top; paths are cleaned.
-    for (int i = 1; i <= 8; ++i)
-        w.addRecentPath(dir.filePath(QStringLiteral("sub/../p%1.tpatch").arg(i)), SettingsKey::recentPatches);
-    QStringList texts = recentTexts(w, true);
-    QCOMPARE(texts.size(), 8 + 2);
-    QCOMPARE(texts.first(), QStringLiteral("&1  ") + QDir::toNativeSeparators(dir.filePath("p8.tpatch")));
-    QCOMPARE(texts.at(7), QStringLiteral("&8  ") + QDir::toNativeSeparators(dir.filePath("p1.tpatch")));
-    QVERIFY(!texts.contains(first));
-
-    // A missing file is reported by the workflow and stays listed.
-    QString error;
-    onNextModal([&error](QWidget *modal) {
-        error = modal->windowTitle();
-        qobject_cast<QDialog *>(modal)->accept();
-    });
-    recentEntry(w, true, texts.first())->trigger();
-    QTRY_COMPARE(error, QStringLiteral("Patch Error"));
-    QTRY_COMPARE(w.findChild<PatchBar *>()->path(), dir.filePath("p8.tpatch"));
-    QCOMPARE(status(w), QStringLiteral("Patch could not be loaded."));
-    QCOMPARE(recentTexts(w, true), texts);
-
-    // In the next session, choosing the recording entry loads it.
-    MainWindow next;
-    QVERIFY(!next.recording().isLoaded());
-    recentEntry(next, false, recentTexts(next, false).first())->trigger();
-    QTRY_VERIFY(next.recording().frameCount() > 0);
-
-    recentEntry(w, true, QStringLiteral("Clear List"))->trigger();
-    QTRY_COMPARE(recentTexts(w, true), QStringList{"(empty) (disabled)"});
-    QVERIFY(openSettings()->value(SettingsKey::recentPatches).toStringList().isEmpty());
-}
-
-void TestMainWindowMenus::shortcutTableListsEveryShortcut()
-{
-    MainWindow w;
+    // The shortcut table lists every shortcut of the table above, in its order.
     w.menuAction("Keyboard Shortcuts")->trigger();
     auto *table = w.findChild<QTableWidget *>(QStringLiteral("shortcutsTable"));
     QVERIFY(table);
@@ -273,13 +213,61 @@ void TestMainWindowMenus::shortcutTableListsEveryShortcut()
     QCOMPARE(shown, expected);
 }
 
+void TestMainWindowMenus::recentListsKeepEightNewestFirst()
+{
+    QTemporaryDir dir;
+    MainWindow w;
+    QCOMPARE(recentTexts(w, false), QStringList{"(empty) (disabled)"});
+
+    // Loading the same patch twice through the patch bar leaves one entry.
+    const QString patch = dir.filePath(QStringLiteral("show.tpatch"));
+    QVERIFY(QFile::copy(kDemoPatch, patch));
+    uploadPatch(w, patch);
+    uploadPatch(w, patch);
+    const QString first = QStringLiteral("&1  ") + QDir::toNativeSeparators(patch);
+    QCOMPARE(recentTexts(w, true), (QStringList{first, "-", "Clear List"}));
+    auto *panel = w.findChild<PlaybackPanel *>();
+    click(panel, QStringLiteral("Load"));
+    QCOMPARE(recentTexts(w, false).size(), 1); // an empty path loads nothing
+    panel->setPath(kDemoRecording);
+    click(panel, QStringLiteral("Load"));
+    QCOMPARE(recentTexts(w, false).first(),
+             QStringLiteral("&1  ") + QDir::toNativeSeparators(kDemoRecording));
+
+    // Eight more: the first one falls off, the newest is on top; paths are cleaned.
+    for (int i = 1; i <= 8; ++i)
+        w.addRecentPath(dir.filePath(QStringLiteral("sub/../p%1.tpatch").arg(i)), SettingsKey::recentPatches);
+    QStringList texts = recentTexts(w, true);
+    QCOMPARE(texts.size(), 8 + 2);
+    QCOMPARE(texts.first(), QStringLiteral("&1  ") + QDir::toNativeSeparators(dir.filePath("p8.tpatch")));
+    QCOMPARE(texts.at(7), QStringLiteral("&8  ") + QDir::toNativeSeparators(dir.filePath("p1.tpatch")));
+    QVERIFY(!texts.contains(first));
+
+    // A missing file is reported by the workflow and stays listed.
+    QString error;
+    acceptNextModal(&error);
+    recentEntry(w, true, texts.first())->trigger();
+    QTRY_COMPARE(error, QStringLiteral("Patch Error"));
+    QTRY_COMPARE(w.findChild<PatchBar *>()->path(), dir.filePath("p8.tpatch"));
+    QCOMPARE(status(w), QStringLiteral("Patch could not be loaded."));
+    QCOMPARE(recentTexts(w, true), texts);
+
+    // In the next session, choosing the recording entry loads it.
+    MainWindow next;
+    QVERIFY(!next.recording().isLoaded());
+    recentEntry(next, false, recentTexts(next, false).first())->trigger();
+    QTRY_VERIFY(next.recording().frameCount() > 0);
+    recentEntry(w, true, QStringLiteral("Clear List"))->trigger();
+    QTRY_COMPARE(recentTexts(w, true), QStringList{"(empty) (disabled)"});
+    QVERIFY(openSettings()->value(SettingsKey::recentPatches).toStringList().isEmpty());
+}
+
 void TestMainWindowMenus::framesStepAndGoTo()
 {
     MainWindow w;
     // Without a recording the entries refuse in the workflow's words.
     w.menuAction("Next Frame")->trigger();
     QCOMPARE(status(w), QStringLiteral("Nothing to play - no recording is loaded."));
-
     w.openFiles(kDemoPatch, kDemoRecording);
     const qint64 last = w.recording().frameCount() - 1;
     w.menuAction("Next Frame")->trigger();
@@ -287,7 +275,6 @@ void TestMainWindowMenus::framesStepAndGoTo()
     QCOMPARE(w.currentFrame(), 2);
     w.menuAction("Previous Frame")->trigger();
     QCOMPARE(w.currentFrame(), 1);
-
     QString label;
     onNextModal([&label](QWidget *modal) {
         auto *dialog = qobject_cast<QInputDialog *>(modal);
@@ -324,13 +311,11 @@ void TestMainWindowMenus::entriesMirrorTheMonitorBar()
     white->trigger();
     QVERIFY(whiteBox->isChecked());
     QVERIFY(white->isChecked());
-    QCOMPARE(
-        status(w),
-        QStringLiteral("This patch has no W / CW / WW channels - white contribution has nothing to add."));
+    QCOMPARE(status(w),
+             QStringLiteral("This patch has no W / CW / WW channels - white contribution has nothing to add."));
     click(&w, QStringLiteral("White channels"));
     QVERIFY(!white->isChecked());
     QCOMPARE(status(w), QStringLiteral("White channel contribution off."));
-
     for (const auto &[entry, box] : {std::pair{"Show Axes", "Axes"}, std::pair{"Fast Draw", "Fast draw"},
                                      std::pair{"Health Overlay", "Health"}}) {
         w.menuAction(entry)->trigger();
@@ -338,7 +323,6 @@ void TestMainWindowMenus::entriesMirrorTheMonitorBar()
         click(&w, QString::fromLatin1(box));
         QVERIFY2(!w.menuAction(entry)->isChecked(), entry);
     }
-
     auto *monitor = w.findChild<QTabWidget *>(QStringLiteral("Monitor"));
     w.menuAction("3D Monitor")->trigger();
     QCOMPARE(monitor->currentIndex(), 1);
@@ -353,17 +337,11 @@ void TestMainWindowMenus::entriesMirrorTheMonitorBar()
     QCOMPARE(w.clock()->isLooping(), !loop);
     w.menuAction("GPS Mirra Set")->trigger();
     QCOMPARE(button<QRadioButton>(&w, QStringLiteral("Recorded playback"))->isChecked(), true);
-    QCOMPARE(w.findChild<PlaybackPanel *>()->isVisibleTo(&w), false);
-
+    QCOMPARE(panel->isVisibleTo(&w), false);
     w.menuAction("Full Screen")->trigger();
     QVERIFY(w.isFullScreen());
     w.menuAction("Full Screen")->trigger();
     QVERIFY(!w.isFullScreen());
-
-    w.applyTheme(QStringLiteral("light"));
-    QCOMPARE(status(w), QStringLiteral("Interface theme: Light"));
-    QCOMPARE(openSettings()->value(SettingsKey::theme).toString(), QStringLiteral("light"));
-    w.applyTheme(QStringLiteral("dark"));
 }
 
 void TestMainWindowMenus::snapshotProposal()
@@ -375,11 +353,11 @@ void TestMainWindowMenus::snapshotProposal()
     QCOMPARE(w.proposedSnapshotPath(), QDir(pictures).filePath("monitor_2d.png"));
     monitor->setCurrentIndex(1);
     QCOMPARE(w.proposedSnapshotPath(), QDir(pictures).filePath("monitor_3d.png"));
-
     w.openFiles(kDemoPatch, QString());
-    QCOMPARE(w.proposedSnapshotPath(), QDir(TALU_SOURCE_DIR "/examples").filePath("demo_3d.png"));
+    const QDir examples(QStringLiteral(TALU_SOURCE_DIR "/examples"));
+    QCOMPARE(w.proposedSnapshotPath(), examples.filePath("demo_3d.png"));
     monitor->setCurrentIndex(0);
-    QCOMPARE(w.proposedSnapshotPath(), QDir(TALU_SOURCE_DIR "/examples").filePath("demo_2d.png"));
+    QCOMPARE(w.proposedSnapshotPath(), examples.filePath("demo_2d.png"));
 
     // The folder of the last snapshot wins over the patch's.
     openSettings()->setValue(SettingsKey::lastSnapshotDir, dir.path());
@@ -387,7 +365,6 @@ void TestMainWindowMenus::snapshotProposal()
     again.openFiles(kDemoPatch, QString());
     again.findChild<QTabWidget *>(QStringLiteral("Monitor"))->setCurrentIndex(0);
     QCOMPARE(again.proposedSnapshotPath(), QDir(dir.path()).filePath("demo_2d.png"));
-
     again.menuAction("Copy Monitor Image")->trigger();
     QCOMPARE(status(again), QStringLiteral("Monitor image copied to the clipboard."));
     QVERIFY(!QGuiApplication::clipboard()->image().isNull());
@@ -407,7 +384,6 @@ void TestMainWindowMenus::helpEntriesShowWhatTheySay()
           QStringLiteral("GNU Lesser General Public License version 3"), QStringLiteral("© 2026 Torvane")})
         QVERIFY2(credits.contains(part), qPrintable(part));
     about->close();
-
     w.menuAction("Release Notes")->trigger();
     auto *notes = w.findChild<QTextBrowser *>(QStringLiteral("releaseNotesText"));
     QVERIFY(notes);
@@ -423,7 +399,6 @@ void TestMainWindowMenus::helpEntriesShowWhatTheySay()
                                ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("network-log.png")))
                                .value<QImage>();
     QCOMPARE(picture.size(), QImage(QStringLiteral(TALU_SOURCE_DIR "/docs/network-log.png")).size());
-
     QTemporaryDir dir;
     w.setImportLogsFolder(dir.filePath(QStringLiteral("logs")));
     w.menuAction("Open Logs Folder")->trigger();
@@ -469,7 +444,6 @@ void TestMainWindowMenus::themeAndLanguageDialogs()
     QVERIFY(previewed.lightness() > dark.lightness());
     QCOMPARE(qApp->palette().color(QPalette::Window), dark);
     QVERIFY(!openSettings()->contains(SettingsKey::theme));
-
     onNextModal([](QWidget *modal) {
         modal->findChild<QListWidget *>(QStringLiteral("themeList"))->setCurrentRow(3);
         qobject_cast<QDialog *>(modal)->accept();
@@ -518,21 +492,14 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
     QTRY_COMPARE(status(w), QStringLiteral("Opened show.tlog: 3 records."));
     QCOMPARE(log->model()->rowCount(), 3);
     QVERIFY(!log->isLoading());
-    for (QPushButton *b : log->findChildren<QPushButton *>())
-        if (b->text() == QLatin1String("Pause") || b->text() == QLatin1String("Clear"))
-            QVERIFY2(!b->isEnabled(), qPrintable(b->text())); // a file is not a stream
+    for (const char *paused : {"Pause", "Clear"}) // a file is not a stream
+        QVERIFY2(!button<QPushButton>(log, QString::fromLatin1(paused))->isEnabled(), paused);
 
     // Not a log: refused in the reader's words, no window.
-    const QString text = dir.filePath(QStringLiteral("notes.tlog"));
-    QFile file(text);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("not a log");
-    file.close();
+    const QString text = TestFiles::write(dir.filePath(QStringLiteral("notes.tlog")), "not a log");
+    QVERIFY(!text.isEmpty());
     QString title;
-    onNextModal([&title](QWidget *modal) {
-        title = modal->windowTitle();
-        qobject_cast<QDialog *>(modal)->accept();
-    });
+    acceptNextModal(&title);
     w.openNetworkLogFile(text);
     QTRY_COMPARE(title, QStringLiteral("Network Log"));
     QVERIFY(status(w).startsWith(QStringLiteral("Network log not opened: ")));
@@ -545,22 +512,15 @@ void TestMainWindowMenus::networkLogFilesOpenReadOnly()
     w.openNetworkLogFile(big);
     auto *loading = w.findChildren<PacketLogWindow *>().constLast();
     QVERIFY(loading->isLoading());
-    QPushButton *cancel = nullptr;
-    for (QPushButton *b : loading->findChildren<QPushButton *>())
-        if (b->text() == QLatin1String("Cancel"))
-            cancel = b;
-    QVERIFY(cancel);
-    QTest::mouseClick(cancel, Qt::LeftButton);
+    QTest::mouseClick(button<QPushButton>(loading, QStringLiteral("Cancel")), Qt::LeftButton);
     QTRY_VERIFY(!loading->isLoading());
     QVERIFY(loading->model()->recordCount() < qint64(many.size()));
-    QVERIFY(loading->findChild<QLabel *>(QStringLiteral("packetLogStatus"))
-                ->text()
+    QVERIFY(labelText(loading, "packetLogStatus")
                 .endsWith(QStringLiteral(" · Reading stopped; the records read until then are shown.")));
 }
 
-// The capture bar with a stand-in helper (no network): the adapters it lists,
-// the packets it streams appear as capture rows, Stop ends it with a summary,
-// and a refusal is shown in the helper's words while the rows stay.
+// The capture bar with a stand-in helper (no network): its adapters, its packets as capture rows,
+// Stop with a summary, a refusal in the helper's words with the rows kept.
 void TestMainWindowMenus::networkLogCapturesFromAnAdapter()
 {
     using namespace TestCapture;
@@ -581,7 +541,6 @@ void TestMainWindowMenus::networkLogCapturesFromAnAdapter()
     auto *state = log->findChild<QLabel *>(QStringLiteral("captureStatus"));
     QCOMPARE(adapter->currentText(), QStringLiteral("talu1 (192.0.2.1)"));
     QCOMPARE(button->text(), QStringLiteral("Start Capture"));
-
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_COMPARE(state->text(), QStringLiteral("Capturing on talu1."));
     QCOMPARE(button->text(), QStringLiteral("Stop Capture"));
@@ -592,10 +551,7 @@ void TestMainWindowMenus::networkLogCapturesFromAnAdapter()
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_COMPARE(state->text(), QStringLiteral("Capture on talu1 stopped: 2 packets, 0 dropped by the system."));
     QCOMPARE(button->text(), QStringLiteral("Start Capture"));
-
-    QFile refuse(dir.filePath(QStringLiteral("stand-in.pcap.refuse")));
-    QVERIFY(refuse.open(QIODevice::WriteOnly));
-    refuse.close();
+    QVERIFY(!TestFiles::write(dir.filePath(QStringLiteral("stand-in.pcap.refuse")), QByteArray()).isEmpty());
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_VERIFY(state->text().startsWith(
         QStringLiteral("Capturing on talu1 is not permitted (cannot capture: no permission). Only the capture helper "

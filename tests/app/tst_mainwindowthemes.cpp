@@ -1,7 +1,5 @@
-// Every theme as the window shows it: the demo loaded, the window rendered,
-// page by page, and each plain label, check box and radio button read against
-// the pixels behind it (WCAG contrast at least 4.5; disabled controls are
-// exempt, as in WCAG).
+// Every theme, page by page with the demo loaded: each enabled plain label, check box and radio
+// button reads against the pixels behind it (WCAG contrast at least 4.5).
 #include "style/moxstyle.h"
 #include "windowdriver.h"
 
@@ -40,10 +38,7 @@ void TestMainWindowThemes::textReadsInEveryTheme()
     int checked = 0;
     QStringList unreadable;
     // Every page once: the side tabs, then the live page.
-    auto *sideTabs = w.findChildren<QTabWidget *>().value(0);
-    for (QTabWidget *tabs : w.findChildren<QTabWidget *>())
-        if (tabs->tabText(0) == QLatin1String("Groups"))
-            sideTabs = tabs;
+    QTabWidget *sideTabs = tabsWith(&w, QStringLiteral("Groups"));
     for (int page = 0; page < sideTabs->count() + 1; ++page) {
         if (page < sideTabs->count())
             sideTabs->setCurrentIndex(page);
@@ -60,8 +55,7 @@ void TestMainWindowThemes::textReadsInEveryTheme()
                 text = static_cast<QAbstractButton *>(widget)->text();
             if (text.trimmed().isEmpty() || !widget->isVisibleTo(&w) || !widget->isEnabled())
                 continue;
-            // The text's colour as the style sheet set it, against the colour
-            // most of the control's visible pixels have (text covers few).
+            // Text colour as the style sheet set it, on the colour most visible pixels have (text covers few).
             const QColor fg = widget->palette().color(widget->foregroundRole());
             const QRect area = widget->visibleRegion().boundingRect().translated(widget->mapTo(&w, QPoint()));
             QHash<QRgb, int> counts;

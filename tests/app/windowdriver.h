@@ -8,10 +8,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
-#include <QRadioButton>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QtTest>
 
@@ -85,9 +88,35 @@ inline void onNextModal(std::function<void(QWidget *)> act)
     poll->start();
 }
 
+// Accepts the next modal dialog, keeping its title and, for a message box, its text.
+inline void acceptNextModal(QString *title, QString *text = nullptr)
+{
+    onNextModal([title, text](QWidget *modal) {
+        *title = modal->windowTitle();
+        if (text)
+            *text = qobject_cast<QMessageBox *>(modal)->text();
+        qobject_cast<QDialog *>(modal)->accept();
+    });
+}
+
 inline QString status(MainWindow &w)
 {
     return w.statusBar()->currentMessage();
+}
+
+// The text of the label below root with this object name.
+inline QString labelText(QWidget *root, const char *name)
+{
+    return root->findChild<QLabel *>(QLatin1String(name))->text();
+}
+
+// The tab widget below root whose first tab is firstTab.
+inline QTabWidget *tabsWith(QWidget *root, const QString &firstTab)
+{
+    for (auto *tabs : root->findChildren<QTabWidget *>())
+        if (tabs->tabText(0) == firstTab)
+            return tabs;
+    return nullptr;
 }
 
 } // namespace WindowDriver

@@ -10,8 +10,7 @@
 
 #include <deque>
 
-// Test doubles for the node's seams: a socket that takes injected datagrams
-// and records sends, a clock the test steps, a journal that records calls.
+// The node's seams for tests: a socket fed by hand that records sends, a stepped clock, a recording journal.
 
 struct FakeDatagram
 {
@@ -30,6 +29,8 @@ public:
     QVector<FakeDatagram> sent;
     std::deque<FakeDatagram> pending;
     bool *destroyed = nullptr;
+    int notifications = 0;
+    std::function<void()> readyRead;
 
     ~FakeSocket() override
     {
@@ -72,9 +73,6 @@ public:
             readyRead();
         ++notifications; // touches the socket after the handler, as Qt does
     }
-    int notifications = 0;
-
-    std::function<void()> readyRead;
 };
 
 class FakeClock final : public MonotonicClock

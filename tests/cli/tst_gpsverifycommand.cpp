@@ -7,8 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// talu-cli gps-verify and generate demo-gps, run as a process the way a show
-// technician runs them on a stick of GPS files.
+// talu-cli gps-verify and generate demo-gps, run the way a show technician runs them on GPS files.
 using TestCli::example;
 using TestCli::run;
 

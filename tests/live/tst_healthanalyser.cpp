@@ -46,36 +46,32 @@ private slots:
         QTest::addColumn<QList<qint64>>("expected");
         QTest::addColumn<QString>("state");
         QTest::addColumn<int>("senders");
-        QTest::newRow("in order") << numbered({1, 2, 3, 4, 5}) << qint64(100) << QList<qint64>{5, 0, 0, 0, 0, 0}
-                                  << "ok" << 1;
-        QTest::newRow("one dropped") << numbered({1, 2, 4, 5}) << qint64(75) << QList<qint64>{4, 1, 0, 0, 0, 0}
-                                     << "unstable" << 1;
-        QTest::newRow("swapped pair") << numbered({1, 3, 2, 4}) << qint64(75) << QList<qint64>{4, 0, 1, 0, 0, 0}
-                                      << "unstable" << 1;
-        QTest::newRow("duplicate") << numbered({1, 2, 2, 3}) << qint64(75) << QList<qint64>{4, 0, 0, 1, 0, 0}
-                                   << "unstable" << 1;
-        QTest::newRow("wrap") << numbered({253, 254, 255, 1, 2}) << qint64(100) << QList<qint64>{5, 0, 0, 0, 0, 0}
-                              << "ok" << 1;
-        QTest::newRow("dropped across the wrap") << numbered({254, 255, 2, 3}) << qint64(75)
-                                                 << QList<qint64>{4, 1, 0, 0, 0, 0} << "unstable" << 1;
-        QTest::newRow("late after the wrap") << numbered({254, 1, 255, 2}) << qint64(75)
-                                             << QList<qint64>{4, 0, 1, 0, 0, 0} << "unstable" << 1;
-        QTest::newRow("not numbered") << numbered({0, 0, 0}) << qint64(50) << QList<qint64>{3, 0, 0, 0, 0, 0}
-                                      << "ok" << 1;
-        QTest::newRow("length changes") << QStringLiteral("0 1 0 1 512; 25 1 0 2 512; 50 1 0 3 510; 75 1 0 4 512")
-                                        << qint64(75) << QList<qint64>{4, 0, 0, 0, 2, 0} << "ok" << 1;
-        QTest::newRow("two senders") << QStringLiteral("0 1 0 1 512; 5 2 0 9 512; 25 1 0 2 512; 30 2 0 10 512")
-                                     << qint64(30) << QList<qint64>{4, 0, 0, 0, 0, 0} << "conflict" << 2;
-        QTest::newRow("a second sender long gone") << QStringLiteral("0 2 0 1 512; 5000 1 0 1 512; 5025 1 0 2 512")
-                                                   << qint64(5025) << QList<qint64>{3, 0, 0, 0, 0, 0} << "ok" << 2;
-        QTest::newRow("stale") << numbered({1, 2}) << qint64(4100) << QList<qint64>{2, 0, 0, 0, 0, 0} << "stale"
-                               << 1;
-        QTest::newRow("a long pause") << (numbered({1, 2, 3, 4, 5, 6, 7, 8}) + QStringLiteral(";700 1 0 9 512"))
-                                      << qint64(700) << QList<qint64>{9, 0, 0, 0, 0, 0} << "unstable" << 1;
+        const auto row = [](const char *name, const QString &events, qint64 nowMs,
+                            const QList<qint64> &expected, const char *state, int senders = 1) {
+            QTest::newRow(name) << events << nowMs << expected << QString::fromLatin1(state) << senders;
+        };
+        row("in order", numbered({1, 2, 3, 4, 5}), 100, {5, 0, 0, 0, 0, 0}, "ok");
+        row("one dropped", numbered({1, 2, 4, 5}), 75, {4, 1, 0, 0, 0, 0}, "unstable");
+        row("swapped pair", numbered({1, 3, 2, 4}), 75, {4, 0, 1, 0, 0, 0}, "unstable");
+        row("duplicate", numbered({1, 2, 2, 3}), 75, {4, 0, 0, 1, 0, 0}, "unstable");
+        row("wrap", numbered({253, 254, 255, 1, 2}), 100, {5, 0, 0, 0, 0, 0}, "ok");
+        row("dropped across the wrap", numbered({254, 255, 2, 3}), 75, {4, 1, 0, 0, 0, 0}, "unstable");
+        row("late after the wrap", numbered({254, 1, 255, 2}), 75, {4, 0, 1, 0, 0, 0}, "unstable");
+        row("not numbered", numbered({0, 0, 0}), 50, {3, 0, 0, 0, 0, 0}, "ok");
+        row("length changes", QStringLiteral("0 1 0 1 512; 25 1 0 2 512; 50 1 0 3 510; 75 1 0 4 512"), 75,
+            {4, 0, 0, 0, 2, 0}, "ok");
+        row("two senders", QStringLiteral("0 1 0 1 512; 5 2 0 9 512; 25 1 0 2 512; 30 2 0 10 512"), 30,
+            {4, 0, 0, 0, 0, 0}, "conflict", 2);
+        row("a second sender long gone", QStringLiteral("0 2 0 1 512; 5000 1 0 1 512; 5025 1 0 2 512"), 5025,
+            {3, 0, 0, 0, 0, 0}, "ok", 2);
+        row("stale", numbered({1, 2}), 4100, {2, 0, 0, 0, 0, 0}, "stale");
+        row("a long pause", numbered({1, 2, 3, 4, 5, 6, 7, 8}) + QStringLiteral(";700 1 0 9 512"), 700,
+            {9, 0, 0, 0, 0, 0}, "unstable");
         // Synced: once per period is right; twice (a torn frame) or not at all is a miss.
-        QTest::newRow("ArtSync") << QStringLiteral("0 1 0 1 512; S 10; 25 1 0 2 512; S 35; S 60; 70 1 0 3 512; "
-                                                   "75 1 0 4 512; S 85; 95 1 0 5 512; S 110")
-                                 << qint64(110) << QList<qint64>{5, 0, 0, 0, 0, 2} << "ok" << 1;
+        row("ArtSync",
+            QStringLiteral("0 1 0 1 512; S 10; 25 1 0 2 512; S 35; S 60; 70 1 0 3 512; 75 1 0 4 512; S 85; "
+                           "95 1 0 5 512; S 110"),
+            110, {5, 0, 0, 0, 0, 2}, "ok");
     }
     void counters()
     {

@@ -61,13 +61,11 @@ void TestLed3DView::autoOrbitStopsOnceWithTheSignal()
     const double pitch = m_view->camera().pitch;
     m_view->onAutoMovementTick();
     QVERIFY(m_view->camera().pitch != pitch);
-    QTest::mousePress(m_view->viewport(), Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
-    QTest::mouseRelease(m_view->viewport(), Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseClick(m_view->viewport(), Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
     QVERIFY(!m_view->isAutoOrbitRunning());
     m_view->stopAutoOrbit();
     m_view->reset();
     QCOMPARE(stopped.count(), 1);
-
     m_view->startAutoOrbit();
     m_view->setViewPreset(4);
     QCOMPARE(stopped.count(), 2);

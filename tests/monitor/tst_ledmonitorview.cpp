@@ -157,10 +157,7 @@ void TestLedMonitorView::staysFittedUntilTouched()
     hidden.show();
     QVERIFY(QTest::qWaitForWindowExposed(&hidden));
     QCOMPARE(hidden.camera().scale, m_view->camera().scale); // as fitted at this size
-    // Once the user zooms, a resize keeps the zoom.
-    QWheelEvent e(QPointF(10, 10), hidden.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120),
-                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(hidden.viewport(), &e);
+    wheel(hidden.viewport(), QPoint(10, 10), 120); // once the user zooms, a resize keeps the zoom
     const double zoomed = hidden.camera().scale;
     hidden.resize(600, 400);
     QTRY_COMPARE(hidden.viewport()->width(), 600);

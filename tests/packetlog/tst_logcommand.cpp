@@ -45,9 +45,8 @@ private slots:
     {
         const Run r = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("frame.len >")});
         QCOMPARE(r.exitCode, 1);
-        const QJsonObject o = r.json();
-        QCOMPARE(o.value(QStringLiteral("ok")).toBool(true), false);
-        QCOMPARE(o.value(QStringLiteral("error")).toString(), QStringLiteral("Missing value after '>'."));
+        QCOMPARE(r.json().value(QStringLiteral("ok")).toBool(true), false);
+        QCOMPARE(r.json().value(QStringLiteral("error")).toString(), QStringLiteral("Missing value after '>'."));
         const Run good = talu({QStringLiteral("filter"), QStringLiteral("--json"), QStringLiteral("!talu.dir == in")});
         const QJsonObject root = good.json().value(QStringLiteral("root")).toObject();
         QCOMPARE(root.value(QStringLiteral("node")).toString(), QStringLiteral("not"));
@@ -58,7 +57,7 @@ private slots:
 
     void logPrintsMatchingLines()
     {
-        const Run r = talu({QStringLiteral("log"), m_sample, QStringLiteral("--filter"), QStringLiteral("talu.outcome != ok")});
+        const Run r = runLog({"SAMPLE", "--filter", "talu.outcome != ok"});
         QCOMPARE(r.exitCode, 0);
         const QList<QByteArray> lines = r.out.trimmed().split('\n');
         QCOMPARE(lines.size(), 2);
@@ -68,8 +67,7 @@ private slots:
 
     void logJson()
     {
-        const Run r = talu({QStringLiteral("log"), m_sample, QStringLiteral("--json"), QStringLiteral("--filter"),
-                            QStringLiteral("artnet.universe == 2 && artnet.opcode == artdmx")});
+        const Run r = runLog({"SAMPLE", "--json", "--filter", "artnet.universe == 2 && artnet.opcode == artdmx"});
         QCOMPARE(r.exitCode, 0);
         const QJsonObject o = r.json();
         QCOMPARE(o.value(QStringLiteral("format")).toString(), QStringLiteral("tlog"));
@@ -86,27 +84,21 @@ private slots:
     void exportAndReadBack()
     {
         const QString capture = m_dir.filePath(QStringLiteral("out.pcapng"));
-        Run r = talu({QStringLiteral("log"), m_sample, QStringLiteral("--export"), QStringLiteral("pcapng"),
-                      QStringLiteral("-o"), capture});
+        const Run r = runLog({"SAMPLE", "--export", "pcapng", "-o", capture});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.out, QByteArray("16 of 16 records written to ") + capture.toUtf8() + '\n');
-        const Run fromTlog = talu({QStringLiteral("log"), m_sample});
-        const Run fromPcapng = talu({QStringLiteral("log"), capture});
+        const Run fromPcapng = runLog({capture});
         QCOMPARE(fromPcapng.exitCode, 0);
-        QCOMPARE(fromPcapng.out, fromTlog.out);
+        QCOMPARE(fromPcapng.out, runLog({"SAMPLE"}).out);
         const QString csv = m_dir.filePath(QStringLiteral("out.csv"));
-        r = talu({QStringLiteral("log"), capture, QStringLiteral("--filter"), QStringLiteral("talu.dir == out"),
-                  QStringLiteral("--export"), QStringLiteral("csv"), QStringLiteral("-o"), csv});
-        QCOMPARE(r.exitCode, 0);
+        QCOMPARE(runLog({capture, "--filter", "talu.dir == out", "--export", "csv", "-o", csv}).exitCode, 0);
         QCOMPARE(TestFiles::read(csv).count('\n'), 4); // header and three sends
         // pcapng -> filtered .tlog -> the same lines as filtering the original.
         const QString tlog = m_dir.filePath(QStringLiteral("dmx.tlog"));
-        const QString dmx = QStringLiteral("artnet.opcode == artdmx");
-        QCOMPARE(talu({QStringLiteral("log"), capture, QStringLiteral("--filter"), dmx, QStringLiteral("--export"),
-                       QStringLiteral("tlog"), QStringLiteral("-o"), tlog}).exitCode, 0);
-        const Run again = talu({QStringLiteral("log"), tlog});
+        QCOMPARE(runLog({capture, "--filter", "artnet.opcode == artdmx", "--export", "tlog", "-o", tlog}).exitCode, 0);
+        const Run again = runLog({tlog});
         QCOMPARE(again.out.count('\n'), 12);
-        QCOMPARE(again.out, talu({QStringLiteral("log"), m_sample, QStringLiteral("--filter"), dmx}).out);
+        QCOMPARE(again.out, runLog({"SAMPLE", "--filter", "artnet.opcode == artdmx"}).out);
     }
 
     void refusals_data()
@@ -116,6 +108,8 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::newRow("bad filter") << QStringList{"SAMPLE", "--filter", "a &&"} << 1 << "error: Unexpected end of filter.";
         QTest::newRow("missing file") << QStringList{"/nonexistent/x.tlog"} << 1 << "error: Cannot open /nonexistent/x.tlog";
+        QTest::newRow("unwritable output") << QStringList{"SAMPLE", "--export", "tlog", "-o", "/nonexistent/x.tlog"}
+                                           << 1 << "error: Cannot write /nonexistent/x.tlog";
         QTest::newRow("export without -o") << QStringList{"SAMPLE", "--export", "csv"} << 2
                                            << "talu-cli log: --export and -o go together.";
         QTest::newRow("unknown export") << QStringList{"SAMPLE", "--export", "xml", "-o", "x"} << 2
@@ -127,8 +121,7 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(int, exitCode);
         QFETCH(QString, message);
-        arguments.replaceInStrings(QStringLiteral("SAMPLE"), m_sample);
-        const Run r = talu(QStringList{QStringLiteral("log")} + arguments);
+        const Run r = runLog(arguments);
         QCOMPARE(r.exitCode, exitCode);
         QVERIFY2(QString::fromUtf8(r.err).startsWith(message), r.err.constData());
     }
@@ -137,7 +130,7 @@ private slots:
     {
         const QString path =
             TestFiles::write(m_dir.filePath(QStringLiteral("cut.tlog")), TestFiles::read(m_sample).left(32 + 296 * 3 + 10));
-        const Run r = talu({QStringLiteral("log"), path});
+        const Run r = runLog({path});
         QCOMPARE(r.exitCode, 0);
         QCOMPARE(r.out.count('\n'), 3);
         QCOMPARE(r.err, QByteArray("warning: The packet log is cut short in record 4 (at byte 920); the 3 records before "
@@ -145,6 +138,13 @@ private slots:
     }
 
 private:
+    // talu-cli log with these arguments; "SAMPLE" stands for the sample log.
+    Run runLog(QStringList arguments) const
+    {
+        arguments.replaceInStrings(QStringLiteral("SAMPLE"), m_sample);
+        return talu(QStringList{QStringLiteral("log")} + arguments);
+    }
+
     QTemporaryDir m_dir;
     QString m_sample;
 };

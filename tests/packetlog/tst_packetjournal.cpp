@@ -2,30 +2,15 @@
 #include "packetlog/packetjournal.h"
 #include "packetlog/tlogfile.h"
 #include "packetlog/logfiles.h"
+#include "logtestdata.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace PacketLog;
-
-namespace {
+using namespace LogTestData;
 
 constexpr qint64 kMs = 1000000;
-
-PacketEvent received(const QByteArray &bytes, qint64 timeNs, quint16 peerPort = 6454)
-{
-    PacketEvent e;
-    e.direction = Direction::In;
-    e.localIp = 0xC0000201;
-    e.localPort = 6454;
-    e.peerIp = 0xC0000202;
-    e.peerPort = peerPort;
-    e.bytes = bytes;
-    e.timeNs = timeNs;
-    return e;
-}
-
-} // namespace
 
 class TestPacketJournal : public QObject
 {
@@ -36,12 +21,9 @@ private slots:
     {
         PacketJournal journal(16);
         const QByteArray poll = makeArtPoll();
-        PacketEvent in = received(poll, 1, 50000);
-        PacketEvent out = in;
-        out.direction = Direction::Out;
-        out.outcome = Outcome::Failed;
+        PacketEvent out = journalEvent(poll, 1, Direction::Out, Outcome::Failed, 50000);
         out.error = 10065;
-        QVERIFY(journal.append(in));
+        QVERIFY(journal.append(journalEvent(poll, 1, Direction::In, Outcome::Ok, 50000)));
         QVERIFY(journal.append(out));
         QCOMPARE(journal.size(), 2);
         const PacketRecord &r = journal.at(0);
@@ -66,15 +48,17 @@ private slots:
         QTest::addColumn<quint16>("peerPort");
         QTest::addColumn<bool>("kept");
         // After ArtDmx 0x0001 seq 1, 512 channels of 0, from port 6454.
-        QTest::newRow("same frame, next sequence, 25 ms") << makeArtDmx(1, 2, 512, 0) << 25 * kMs << 0 << quint16(6454) << false;
-        QTest::newRow("same frame 249 ms") << makeArtDmx(1, 2, 512, 0) << 249 * kMs << 0 << quint16(6454) << false;
-        QTest::newRow("same frame 250 ms") << makeArtDmx(1, 2, 512, 0) << 250 * kMs << 0 << quint16(6454) << true;
-        QTest::newRow("data changed") << makeArtDmx(1, 2, 512, 1) << 25 * kMs << 0 << quint16(6454) << true;
-        QTest::newRow("other universe") << makeArtDmx(2, 2, 512, 0) << 25 * kMs << 0 << quint16(6454) << true;
-        QTest::newRow("other sender port") << makeArtDmx(1, 2, 512, 0) << 25 * kMs << 0 << quint16(6455) << true;
-        QTest::newRow("shorter frame") << makeArtDmx(1, 2, 510, 0) << 25 * kMs << 0 << quint16(6454) << true;
-        QTest::newRow("failed send kept") << makeArtDmx(1, 2, 512, 0) << 25 * kMs << 1 << quint16(6454) << true;
-        QTest::newRow("clock went back") << makeArtDmx(1, 2, 512, 0) << -5 * kMs << 0 << quint16(6454) << true;
+        const QByteArray same = makeArtDmx(1, 2, 512, 0);
+        const quint16 port = 6454;
+        QTest::newRow("same frame, next sequence, 25 ms") << same << 25 * kMs << 0 << port << false;
+        QTest::newRow("same frame 249 ms") << same << 249 * kMs << 0 << port << false;
+        QTest::newRow("same frame 250 ms") << same << 250 * kMs << 0 << port << true;
+        QTest::newRow("data changed") << makeArtDmx(1, 2, 512, 1) << 25 * kMs << 0 << port << true;
+        QTest::newRow("other universe") << makeArtDmx(2, 2, 512, 0) << 25 * kMs << 0 << port << true;
+        QTest::newRow("other sender port") << same << 25 * kMs << 0 << quint16(6455) << true;
+        QTest::newRow("shorter frame") << makeArtDmx(1, 2, 510, 0) << 25 * kMs << 0 << port << true;
+        QTest::newRow("failed send kept") << same << 25 * kMs << 1 << port << true;
+        QTest::newRow("clock went back") << same << -5 * kMs << 0 << port << true;
     }
     void collapsing()
     {
@@ -86,10 +70,8 @@ private slots:
         PacketJournal journal(16);
         const QByteArray first = makeArtDmx(1, 1, 512, 0);
         const qint64 t0 = 1000 * kMs;
-        QVERIFY(journal.append(received(first, t0)));
-        PacketEvent e = received(second, t0 + afterNs, peerPort);
-        e.outcome = Outcome(outcome);
-        QCOMPARE(journal.append(e), kept);
+        QVERIFY(journal.append(journalEvent(first, t0)));
+        QCOMPARE(journal.append(journalEvent(second, t0 + afterNs, Direction::In, Outcome(outcome), peerPort)), kept);
         QCOMPARE(journal.size(), kept ? 2 : 1);
         QCOMPARE(journal.counters().collapsed, kept ? 0 : 1);
     }
@@ -100,7 +82,7 @@ private slots:
         PacketJournal journal(256);
         const QByteArray frame = makeArtDmx(1, 1, 512, 0);
         for (int i = 0; i < 40; ++i)
-            journal.append(received(frame, qint64(i) * 25 * kMs));
+            journal.append(journalEvent(frame, qint64(i) * 25 * kMs));
         QCOMPARE(journal.size(), 4);
         QCOMPARE(journal.counters().collapsed, 36);
     }
@@ -110,7 +92,7 @@ private slots:
         PacketJournal journal(5); // rounded up to 8
         QCOMPARE(journal.capacity(), 8);
         for (int i = 0; i < 20; ++i)
-            journal.append(received(makeArtDmx(quint16(i), 1, 10, 0), i));
+            journal.append(journalEvent(makeArtDmx(quint16(i), 1, 10, 0), i));
         QCOMPARE(journal.size(), 8);
         QCOMPARE(journal.at(0).portAddress, 12);
         QCOMPARE(journal.at(7).portAddress, 19);
@@ -119,7 +101,7 @@ private slots:
         journal.clear();
         QCOMPARE(journal.size(), 0);
         journal.setEnabled(false); // disabled: keeps nothing
-        QVERIFY(!journal.append(received(makeArtPoll(), 1)));
+        QVERIFY(!journal.append(journalEvent(makeArtPoll(), 1)));
         QCOMPARE(journal.size(), 0);
     }
 
@@ -133,7 +115,7 @@ private slots:
         QVERIFY(journal.startSpool(path, &error));
         QVERIFY(journal.isSpooling());
         for (int i = 0; i < 5000; ++i)
-            journal.append(received(makeArtDmx(quint16(i % 7), quint8(i), 64, quint8(i)), qint64(i) * kMs));
+            journal.append(journalEvent(makeArtDmx(quint16(i % 7), quint8(i), 64, quint8(i)), qint64(i) * kMs));
         QTRY_VERIFY(journal.counters().spooled > 0); // written while still running
         journal.stopSpool();
         QVERIFY(!journal.isSpooling());
@@ -144,8 +126,7 @@ private slots:
         QVERIFY(r.ok);
         QVERIFY(r.warnings.isEmpty());
         QCOMPARE(qint64(r.records.size()), c.spooled);
-        if (c.spoolDropped == 0) {
-            // The ring kept the last 1024; they are the file's last 1024.
+        if (c.spoolDropped == 0) { // the ring kept the last 1024; they are the file's last 1024
             for (int i = 0; i < journal.size(); ++i)
                 QVERIFY(r.records[r.records.size() - size_t(journal.size()) + size_t(i)] == journal.at(i));
         }
@@ -158,7 +139,7 @@ private slots:
         QVERIFY(!journal.startSpool(QStringLiteral("/nonexistent-dir/x.tlog"), &error));
         QVERIFY(error.untranslatedText().startsWith(QStringLiteral("Cannot write the packet log /nonexistent-dir/x.tlog")));
         QVERIFY(!journal.isSpooling());
-        QVERIFY(journal.append(received(makeArtPoll(), 1)));
+        QVERIFY(journal.append(journalEvent(makeArtPoll(), 1)));
     }
 
     void destroyingWhileSpoolingFlushes()
@@ -169,7 +150,7 @@ private slots:
             PacketJournal journal(64);
             QVERIFY(journal.startSpool(path, nullptr));
             for (int i = 0; i < 10; ++i)
-                journal.append(received(makeArtPoll(), i));
+                journal.append(journalEvent(makeArtPoll(), i));
         }
         QCOMPARE(int(loadPacketLog(path).records.size()), 10);
     }

@@ -1,7 +1,5 @@
-// The Network Log window on a journal it follows: new records arrive in one
-// batch per look, what the ring overwrote first is counted as dropped, pause
-// and resume, the filter bar's states and messages, the detail pane's
-// decoded fields over the marked hex dump, and the rows that must stand out.
+// The Network Log window on a journal it follows: batches per look, drops, pause and resume, the filter bar,
+// the detail pane's fields over the marked hex dump, and the rows that must stand out.
 #include "artnet/artnetpacket.h"
 #include "packetlog/artnetfields.h"
 #include "packetlog/displayfilter.h"
@@ -10,6 +8,7 @@
 #include "packetlog/widgets/packetlistmodel.h"
 #include "packetlog/widgets/packetlogwindow.h"
 #include "style/moxstyle.h"
+#include "logtestdata.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -23,41 +22,7 @@
 #include <QtTest>
 
 using namespace PacketLog;
-
-namespace {
-
-// ArtDmx: "Art-Net\0", OpCode 0x5000 LE, ProtVer 14, sequence, physical,
-// Port-Address LE, length BE, then the data (the sequence again, so that the
-// journal never takes two of them for one refreshed frame).
-QByteArray artDmx(quint16 portAddress, quint8 sequence, int channels = 4)
-{
-    QByteArray b("Art-Net\0", 8);
-    b += QByteArray("\x00\x50\x00\x0e", 4);
-    b += char(sequence);
-    b += char(0);
-    b += char(portAddress & 0xFF);
-    b += char(portAddress >> 8);
-    b += char(channels >> 8);
-    b += char(channels & 0xFF);
-    b += QByteArray(channels, char(sequence));
-    return b;
-}
-
-PacketEvent packet(const QByteArray &bytes, Direction direction = Direction::In,
-                   Outcome outcome = Outcome::Ok)
-{
-    PacketEvent e;
-    e.direction = direction;
-    e.localIp = 0xC0000201; // 192.0.2.1
-    e.localPort = 6454;
-    e.peerIp = 0xC0000202;
-    e.peerPort = 6454;
-    e.bytes = bytes;
-    e.outcome = outcome;
-    return e;
-}
-
-} // namespace
+using namespace LogTestData;
 
 class TestPacketLogWindow : public QObject
 {
@@ -73,31 +38,29 @@ void TestPacketLogWindow::recordsArriveInBatchesAndDropsAreCounted()
 {
     MoxStyle style;
     PacketJournal journal(1024);
-    journal.append(packet(artDmx(1, 200))); // before the window looked: shown first
+    journal.append(journalEvent(artDmx(1, 200))); // before the window looked: shown first
     PacketLogWindow window(style);
     window.setJournal(&journal);
     QSignalSpy inserted(window.model(), &QAbstractItemModel::rowsInserted);
     for (int i = 0; i < 600; ++i)
-        journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i / 8))));
+        journal.append(journalEvent(artDmx(quint16(i % 8), quint8(1 + i / 8))));
     window.show(); // a hidden window takes nothing
     window.poll();
     QCOMPARE(inserted.count(), 1); // one insert for the batch
     QCOMPARE(window.model()->rowCount(), 601);
-
     // More than the ring holds between two looks: the overwritten ones are dropped.
     for (int i = 0; i < 1500; ++i)
-        journal.append(packet(artDmx(quint16(i % 8), quint8(1 + i % 200)), Direction::Out));
+        journal.append(journalEvent(artDmx(quint16(i % 8), quint8(1 + i % 200)), -1, Direction::Out));
     window.poll();
     QCOMPARE(window.model()->rowCount(), 601 + 1024);
     QCOMPARE(window.droppedCount(), 1500 - 1024);
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("packetLogStatus"))->text(),
              QStringLiteral("1625 records · 1625 shown · 476 dropped"));
-
     // Paused: nothing is taken; resumed: the list catches up.
     auto *pause = window.findChild<QPushButton *>();
     QCOMPARE(pause->text(), QStringLiteral("Pause"));
     pause->click();
-    journal.append(packet(artDmx(1, 9)));
+    journal.append(journalEvent(artDmx(1, 9)));
     window.poll();
     QCOMPARE(window.model()->rowCount(), 1625);
     QCOMPARE(pause->text(), QStringLiteral("Resume"));
@@ -113,14 +76,12 @@ void TestPacketLogWindow::filterBarStatesAndMessages()
     window.setJournal(&journal);
     window.show();
     for (quint16 universe = 0; universe < 4; ++universe)
-        journal.append(packet(artDmx(universe, 1)));
+        journal.append(journalEvent(artDmx(universe, 1)));
     window.poll();
     FilterBar *bar = window.filterBar();
-    // Keys go to the combo box, as they do when it has the focus.
-    auto *field = bar->findChild<QComboBox *>();
+    auto *field = bar->findChild<QComboBox *>(); // keys go to the combo box, as they do when it has the focus
     auto *error = bar->findChild<QLabel *>(QStringLiteral("filterError"));
     QSignalSpy recent(bar, &FilterBar::recentFiltersChanged);
-
     // Invalid while typing: the filter's own message, and Enter changes nothing.
     const QString broken = QStringLiteral("artnet.universe ==");
     QTest::keyClicks(field, broken);
@@ -130,7 +91,6 @@ void TestPacketLogWindow::filterBarStatesAndMessages()
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(window.model()->rowCount(), 4);
     QCOMPARE(recent.count(), 0);
-
     QTest::keyClicks(field, QStringLiteral(" 2"));
     QVERIFY(bar->isValid());
     QVERIFY(!error->isVisibleTo(&window));
@@ -142,11 +102,10 @@ void TestPacketLogWindow::filterBarStatesAndMessages()
     QCOMPARE(window.findChild<QLabel *>(QStringLiteral("packetLogStatus"))->text(),
              QStringLiteral("4 records · 1 shown · 0 dropped"));
     // New records pass the filter as they arrive.
-    journal.append(packet(artDmx(2, 2)));
-    journal.append(packet(artDmx(3, 2)));
+    journal.append(journalEvent(artDmx(2, 2)));
+    journal.append(journalEvent(artDmx(3, 2)));
     window.poll();
     QCOMPARE(window.model()->rowCount(), 2);
-
     field->lineEdit()->clear();
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(window.model()->rowCount(), 6);
@@ -159,7 +118,7 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
     PacketLogWindow window(style);
     window.setJournal(&journal);
     window.show();
-    journal.append(packet(artDmx(0x0123, 7)));
+    journal.append(journalEvent(artDmx(0x0123, 7)));
     window.poll();
     window.view()->setCurrentIndex(window.model()->index(0, 0));
     auto *fields = window.findChild<QTreeWidget *>(QStringLiteral("packetFields"));
@@ -172,11 +131,17 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
     auto *hex = window.findChild<QPlainTextEdit *>(QStringLiteral("packetHex"));
     QVERIFY(hex->toPlainText().startsWith(
         QStringLiteral("0000  41 72 74 2d 4e 65 74 00 00 50 00 0e 07 00 23 01 ")));
-    fields->setCurrentItem(fields->topLevelItem(5)); // Port-Address: bytes 14 and 15
-    const QList<QTextEdit::ExtraSelection> marks = hex->extraSelections();
-    QCOMPARE(marks.size(), 2);
-    QCOMPARE(marks.at(0).cursor.selectedText(), QStringLiteral("23"));
-    QCOMPARE(marks.at(1).cursor.selectedText(), QStringLiteral("01"));
+    // Port-Address: bytes 14 and 15; Length: bytes 16 and 17, on the second line.
+    const auto marks = [&](int item, const char *first, const char *second, const char *line) {
+        fields->setCurrentItem(fields->topLevelItem(item));
+        const QList<QTextEdit::ExtraSelection> marked = hex->extraSelections();
+        QCOMPARE(marked.size(), 2);
+        QCOMPARE(marked.at(0).cursor.selectedText(), QString::fromLatin1(first));
+        QCOMPARE(marked.at(1).cursor.selectedText(), QString::fromLatin1(second));
+        QCOMPARE(marked.at(1).cursor.block().text().left(4), QString::fromLatin1(line));
+    };
+    marks(5, "23", "01", "0000");
+    marks(6, "00", "04", "0010");
     // An ArtPollReply as the node builds it: its address, names and ports.
     ArtNet::PollReplyInput reply;
     reply.bindIPv4 = 0xC0000201;
@@ -188,12 +153,6 @@ void TestPacketLogWindow::detailPaneMarksTheSelectedField()
                                  "NetSwitch = 1", "SubSwitch = 2", "ShortName = TorvaneTester",
                                  "LongName = Torvane Art-Net Tester", "BindIp = 192.0.2.1", "BindIndex = 1"})
         QVERIFY2(replyFields.contains(QString::fromLatin1(expected)), qPrintable(replyFields.join('\n')));
-
-    fields->setCurrentItem(fields->topLevelItem(6)); // Length: bytes 16 and 17, on the second line
-    QCOMPARE(hex->extraSelections().size(), 2);
-    QCOMPARE(hex->extraSelections().at(0).cursor.selectedText(), QStringLiteral("00"));
-    QCOMPARE(hex->extraSelections().at(1).cursor.selectedText(), QStringLiteral("04"));
-    QCOMPARE(hex->extraSelections().at(1).cursor.block().text().left(4), QStringLiteral("0010"));
 }
 
 void TestPacketLogWindow::rowsThatMustStandOut()
@@ -205,15 +164,14 @@ void TestPacketLogWindow::rowsThatMustStandOut()
     window.show();
     QByteArray unknown = artDmx(1, 1);
     unknown[9] = char(0x7f); // OpCode 0x7f00
-    journal.append(packet(artDmx(1, 5)));
-    journal.append(packet(artDmx(1, 3)));                                  // back: out of order
-    journal.append(packet(artDmx(1, 9), Direction::Out, Outcome::Failed)); // a failed send
-    journal.append(packet(unknown));
-    journal.append(packet(artDmx(1, 10))); // in order
+    journal.append(journalEvent(artDmx(1, 5)));
+    journal.append(journalEvent(artDmx(1, 3)));                                   // back: out of order
+    journal.append(journalEvent(artDmx(1, 9), -1, Direction::Out, Outcome::Failed)); // a failed send
+    journal.append(journalEvent(unknown));
+    journal.append(journalEvent(artDmx(1, 10))); // in order
     window.poll();
     const auto colour = [&window](int row) {
-        return window.model()->data(window.model()->index(row, PacketListModel::InfoColumn),
-                                    Qt::ForegroundRole);
+        return window.model()->data(window.model()->index(row, PacketListModel::InfoColumn), Qt::ForegroundRole);
     };
     QVERIFY(!colour(0).isValid());
     QCOMPARE(colour(1).value<QBrush>().color(), style.roleColour(MoxStyle::WarningRole));

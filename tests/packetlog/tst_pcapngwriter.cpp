@@ -1,8 +1,8 @@
 #include "cli/samplelog.h"
 #include "packetlog/logfiles.h"
 #include "packetlog/pcapngwriter.h"
+#include "logtestdata.h"
 
-#include <QBuffer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -25,11 +25,7 @@ private slots:
         r.srcPort = 6454;
         r.dstPort = 6454;
         r.setDatagram(makeArtPoll());
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        QVERIFY(writePcapng({r}, &buffer, nullptr));
-        const QByteArray file = buffer.data();
-
+        const QByteArray file = LogTestData::pcapngOf({r});
         const QByteArray shb = QByteArray("\x0A\x0D\x0D\x0A", 4) + QByteArray("\x30\0\0\0", 4) // type, length 48
                              + QByteArray("\x4D\x3C\x2B\x1A", 4)                                // byte-order magic
                              + QByteArray("\x01\x00\x00\x00", 4)                                // version 1.0
@@ -43,7 +39,6 @@ private slots:
                              + QByteArray("\x09\x00\x01\x00\x09\0\0\0", 8)                       // if_tsresol 10^-9
                              + QByteArray(4, '\0') + QByteArray("\x28\0\0\0", 4);
         QCOMPARE(file.mid(48, 40), idb);
-
         const qsizetype epb = 48 + 40 + 44; // after the second ("capture") interface
         const QByteArray frame = QByteArray(6, char(0xFF))                       // broadcast MAC
                                + QByteArray("\x02\x00\xC0\x00\x02\x02", 6)       // MAC made from 192.0.2.2
@@ -73,13 +68,12 @@ private slots:
         const QString path = dir.filePath(QStringLiteral("sample.pcapng"));
         LogMessage error;
         QVERIFY(savePacketLog(path, LogFormat::Pcapng, makeSampleLog(), &error));
+        QStringList arguments{"-n", "-r", path, "-T", "fields", "-E", "separator=,"};
+        for (const char *field : {"ip.src", "udp.dstport", "artnet.header.opcode", "artnet.output.universe",
+                                  "artnet.output.sequence", "artnet.poll_reply.short_name"})
+            arguments << QStringLiteral("-e") << QString::fromLatin1(field);
         QProcess p;
-        p.start(tshark, {QStringLiteral("-n"), QStringLiteral("-r"), path, QStringLiteral("-T"), QStringLiteral("fields"),
-                         QStringLiteral("-E"), QStringLiteral("separator=,"), QStringLiteral("-e"), QStringLiteral("ip.src"),
-                         QStringLiteral("-e"), QStringLiteral("udp.dstport"), QStringLiteral("-e"),
-                         QStringLiteral("artnet.header.opcode"), QStringLiteral("-e"), QStringLiteral("artnet.output.universe"),
-                         QStringLiteral("-e"), QStringLiteral("artnet.output.sequence"), QStringLiteral("-e"),
-                         QStringLiteral("artnet.poll_reply.short_name")});
+        p.start(tshark, arguments);
         QVERIFY(p.waitForFinished(60000));
         QCOMPARE(p.exitCode(), 0);
         const QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);

@@ -44,12 +44,10 @@ class TestGpsPlaybackPanel : public QObject
     Q_OBJECT
 private slots:
     void withoutGroupsShowsOnlyTheEmptyState();
-    void unnamedGroupIsCaptionedByPosition();
     void rowsCaptionWhatThePatchExpects();
     void rowInformation_data();
     void rowInformation();
-    void editingAPathEmitsPathsChanged();
-    void buttonsEmitRequests();
+    void controlsEmitRequests();
     void frameLine_data();
     void frameLine();
     void reportColoursEachVerdict();
@@ -70,25 +68,11 @@ void TestGpsPlaybackPanel::withoutGroupsShowsOnlyTheEmptyState()
     QVERIFY(panel.findChildren<GpsGroupRow *>().isEmpty());
     QCOMPARE(panel.setInformationLabel()->text(), QStringLiteral("No set loaded."));
     QCOMPARE(panel.fps(), 40);
-    QVERIFY(panel.loop());
     QCOMPARE(panel.findChild<QCheckBox *>(QStringLiteral("loopBox"))->text(),
              QStringLiteral("Loop the whole set (1 -> end -> 1)"));
     panel.setGroups(threeGroups());
     QVERIFY(!empty->isVisible());
     QCOMPARE(panel.findChildren<GpsGroupRow *>().size(), 3);
-}
-
-void TestGpsPlaybackPanel::unnamedGroupIsCaptionedByPosition()
-{
-    TPatch::PatchData patch;
-    patch.groups = {group(QStringLiteral("A"), {{}}), group(QStringLiteral("B"), {{}}), group(QString(), {{}})};
-    GpsPlaybackPanel panel(m_style);
-    panel.setGroups(GpsPanelGroup::fromExpectation(GpsPatchExpectation::fromPatch(patch)));
-    GpsGroupRow *row = panel.row(2);
-    QVERIFY(row->captionLabel()->text().startsWith(QStringLiteral("<b>Group 3</b>")));
-    QCOMPARE(row->pathEdit()->placeholderText(), QStringLiteral("Recording for \"Group 3\""));
-    QCOMPARE(row->browseButton()->toolTip(), QStringLiteral("Browse for the recording of \"Group 3\""));
-    QCOMPARE(row->browseButton()->text(), QStringLiteral("..."));
 }
 
 void TestGpsPlaybackPanel::rowsCaptionWhatThePatchExpects()
@@ -103,6 +87,15 @@ void TestGpsPlaybackPanel::rowsCaptionWhatThePatchExpects()
              QStringLiteral("<b>Winches</b>  <span style='color:%1;'>no drawable pixels</span>").arg(warning));
     QCOMPARE(panel.row(0)->dotLabel()->text(),
              QStringLiteral("<span style='color:%1;'>&#9679;</span> ").arg(muted));
+    // A group the patch leaves unnamed is captioned by its position.
+    TPatch::PatchData patch;
+    patch.groups = {group(QStringLiteral("A"), {{}}), group(QStringLiteral("B"), {{}}), group(QString(), {{}})};
+    panel.setGroups(GpsPanelGroup::fromExpectation(GpsPatchExpectation::fromPatch(patch)));
+    GpsGroupRow *row = panel.row(2);
+    QVERIFY(row->captionLabel()->text().startsWith(QStringLiteral("<b>Group 3</b>")));
+    QCOMPARE(row->pathEdit()->placeholderText(), QStringLiteral("Recording for \"Group 3\""));
+    QCOMPARE(row->browseButton()->toolTip(), QStringLiteral("Browse for the recording of \"Group 3\""));
+    QCOMPARE(row->browseButton()->text(), QStringLiteral("..."));
 }
 
 void TestGpsPlaybackPanel::rowInformation_data()
@@ -148,7 +141,7 @@ void TestGpsPlaybackPanel::rowInformation()
     QCOMPARE(panel.row(0)->infoLabel()->text(), QString());
 }
 
-void TestGpsPlaybackPanel::editingAPathEmitsPathsChanged()
+void TestGpsPlaybackPanel::controlsEmitRequests()
 {
     GpsPlaybackPanel panel(m_style);
     panel.setGroups(threeGroups());
@@ -159,25 +152,20 @@ void TestGpsPlaybackPanel::editingAPathEmitsPathsChanged()
     QTest::keyClicks(panel.row(2)->pathEdit(), QStringLiteral("/gps/a_Group 3.tpx "));
     QCOMPARE(changed.count(), 20);
     QCOMPARE(panel.paths(), (QStringList{"/gps/a_Facade.tpx", "", "/gps/a_Group 3.tpx"}));
-}
-
-void TestGpsPlaybackPanel::buttonsEmitRequests()
-{
-    GpsPlaybackPanel panel(m_style);
     QSignalSpy load(&panel, &GpsPlaybackPanel::loadAllRequested);
     QSignalSpy play(&panel, &GpsPlaybackPanel::playPauseRequested);
     QSignalSpy stop(&panel, &GpsPlaybackPanel::stopRequested);
     QSignalSpy loop(&panel, &GpsPlaybackPanel::loopChanged);
+    auto *rewind = panel.findChild<QPushButton *>(QStringLiteral("rewindButton"));
     QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("loadSetButton")), Qt::LeftButton);
     QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("playPauseButton")), Qt::LeftButton);
-    QTest::mouseClick(panel.findChild<QPushButton *>(QStringLiteral("rewindButton")), Qt::LeftButton);
+    QTest::mouseClick(rewind, Qt::LeftButton);
     QTest::mouseClick(panel.findChild<QCheckBox *>(QStringLiteral("loopBox")), Qt::LeftButton);
     QCOMPARE(load.count(), 1);
     QCOMPARE(play.count(), 1);
     QCOMPARE(stop.count(), 1);
     QCOMPARE(loop.at(0).at(0).toBool(), false);
-    QCOMPARE(panel.findChild<QPushButton *>(QStringLiteral("rewindButton"))->toolTip(),
-             QStringLiteral("Stop and return every file to its first frame"));
+    QCOMPARE(rewind->toolTip(), QStringLiteral("Stop and return every file to its first frame"));
 }
 
 void TestGpsPlaybackPanel::frameLine_data()

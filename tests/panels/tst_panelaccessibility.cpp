@@ -1,6 +1,5 @@
-// Every panel seen as a screen reader sees it: through the accessibility
-// interfaces Qt hands to the platform (AT-SPI on Linux, UI Automation on
-// Windows), not through the widget pointers the other tests use.
+// Every panel as a screen reader sees it: through the accessibility interfaces Qt hands
+// the platform (AT-SPI, UI Automation), not through the widget pointers other tests use.
 #include "artnet/widgets/broadcastpanel.h"
 #include "panelpatch.h"
 #include "panels/gpsplaybackpanel.h"
@@ -16,28 +15,20 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <memory>
 
 namespace {
 
 bool isControl(QAccessible::Role role)
 {
-    switch (role) {
-    case QAccessible::PushButton:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::SpinBox:
-    case QAccessible::EditableText:
-    case QAccessible::Slider:
-    case QAccessible::Tree:
-    case QAccessible::Table:
-    case QAccessible::ButtonMenu:
-        return true;
-    default:
-        return false;
-    }
+    static const QAccessible::Role controls[] = {
+        QAccessible::PushButton, QAccessible::CheckBox,     QAccessible::RadioButton, QAccessible::ComboBox,
+        QAccessible::SpinBox,    QAccessible::EditableText, QAccessible::Slider,      QAccessible::Tree,
+        QAccessible::Table,      QAccessible::ButtonMenu};
+    return std::find(std::begin(controls), std::end(controls), role) != std::end(controls);
 }
 
 // Walks the accessible tree below root; calls visit for every visible node.
@@ -64,11 +55,13 @@ QStringList unnamedControls(QWidget *panel)
     return out;
 }
 
+// The first node of that role (any role for NoRole) with that name.
 QAccessibleInterface *findByName(QWidget *panel, QAccessible::Role role, const QString &name)
 {
     QAccessibleInterface *found = nullptr;
     walk(QAccessible::queryAccessibleInterface(panel), [&](QAccessibleInterface *node) {
-        if (!found && node->role() == role && node->text(QAccessible::Name) == name)
+        if (!found && (role == QAccessible::NoRole || node->role() == role)
+            && node->text(QAccessible::Name) == name)
             found = node;
     });
     return found;
@@ -108,8 +101,7 @@ void TestPanelAccessibility::everyControlHasAName_data()
         auto *bar = new PatchBar;
         bar->setPath(QStringLiteral("/shows/hall.tpatch"));
         return bar;
-    })
-                               << "Browse for a patch file";
+    }) << "Browse for a patch file";
     QTest::newRow("group filter") << PanelFactory([](const MoxStyle *) {
         auto *panel = new GroupFilterPanel;
         TPatch::PatchData patch;
@@ -132,8 +124,7 @@ void TestPanelAccessibility::everyControlHasAName_data()
         auto *panel = new PlaybackPanel;
         panel->setPath(QStringLiteral("/shows/hall.tpx"));
         return panel;
-    })
-                              << "Browse for a .tpx recording";
+    }) << "Browse for a .tpx recording";
     QTest::newRow("gps playback") << PanelFactory([](const MoxStyle *s) {
         auto *panel = new GpsPlaybackPanel(*s);
         panel->setGroups({{QStringLiteral("Facade"), 2, true}, {QStringLiteral("Floor"), 1, true}});
@@ -155,10 +146,7 @@ void TestPanelAccessibility::everyControlHasAName()
     panel->resize(420, 900);
     panel->show();
     QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
-    bool found = false;
-    walk(QAccessible::queryAccessibleInterface(panel.get()),
-         [&](QAccessibleInterface *node) { found = found || node->text(QAccessible::Name) == named; });
-    QVERIFY2(found, qPrintable(named));
+    QVERIFY2(findByName(panel.get(), QAccessible::NoRole, named), qPrintable(named));
     const QStringList unnamed = unnamedControls(panel.get());
     QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(QStringLiteral(", "))));
 }

@@ -103,10 +103,7 @@ void TestPatchBar::browseStartsInTheNamedFolder()
     QFETCH(QString, expected);
     QTemporaryDir dir;
     QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("show")));
-    QFile file(dir.filePath(QStringLiteral("show/hall.tpatch")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-
+    QVERIFY(QFile(dir.filePath(QStringLiteral("show/hall.tpatch"))).open(QIODevice::WriteOnly));
     PatchBar bar;
     bar.setPath(dir.filePath(typed));
     QSignalSpy spy(&bar, &PatchBar::uploadRequested);

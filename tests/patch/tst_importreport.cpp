@@ -49,6 +49,17 @@ PatchLoadResult failed()
 using TestFiles::read;
 using TestFiles::write;
 
+ImportReportResult report(const QString &logs, const QString &source, const PatchLoadResult &result,
+                          const QString &language = QStringLiteral("English"), const QDateTime &when = kNoon)
+{
+    return writeImportReport(logs, source, result, language, when);
+}
+
+QString reportText(const ImportReportResult &r)
+{
+    return QString::fromUtf8(read(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
+}
+
 } // namespace
 
 class TestImportReport : public QObject
@@ -72,7 +83,6 @@ void TestImportReport::layout_data()
     QTest::addColumn<PatchLoadResult>("result");
     QTest::addColumn<QString>("resultLine");
     QTest::addColumn<QString>("block");
-
     QTest::newRow("warnings") << warned() << "loaded with 2 warning(s)"
                               << "Warnings:\n"
                                  "  1. 2 fixture(s) are incomplete in the file and were skipped.\n"
@@ -97,7 +107,7 @@ void TestImportReport::layout()
     const QString logs = dir.filePath(QStringLiteral("logs"));
     QVERIFY(QDir().mkpath(logs));
 
-    const ImportReportResult r = writeImportReport(logs, source, result, QStringLiteral("English"), kNoon);
+    const ImportReportResult r = report(logs, source, result);
     QVERIFY2(r.ok, qPrintable(r.error));
     QVERIFY(!r.reused);
     QCOMPARE(r.folder, QDir(logs).filePath(QStringLiteral("2026-03-14_12-30-05")));
@@ -132,60 +142,49 @@ void TestImportReport::sameLoadReusesItsFolder()
 {
     QTemporaryDir dir;
     const QString source = write(dir.filePath(QStringLiteral("a.elm")), "<console appVersion=\"1\"/>");
-    const QString logs = dir.path();
-    const ImportReportResult first =
-        writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult first = report(dir.path(), source, failed());
     QVERIFY(first.ok);
     const ImportReportResult again =
-        writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon.addSecs(3600));
+        report(dir.path(), source, failed(), QStringLiteral("English"), kNoon.addSecs(3600));
     QVERIFY(again.ok);
     QVERIFY(again.reused);
     QCOMPARE(again.folder, first.folder);
     // Another outcome for the same bytes, or other bytes, is another load.
-    const ImportReportResult other =
-        writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+    const ImportReportResult other = report(dir.path(), source, warned());
     QVERIFY(!other.reused);
     QVERIFY(other.folder != first.folder);
     write(source, "<console appVersion=\"2\"/>");
-    QVERIFY(!writeImportReport(logs, source, failed(), QStringLiteral("English"), kNoon).reused);
+    QVERIFY(!report(dir.path(), source, failed()).reused);
 }
 
 void TestImportReport::languageDoesNotChangeTheFingerprint()
 {
-    QTemporaryDir dir;
+    QTemporaryDir dir, other;
     const QString source = write(dir.filePath(QStringLiteral("wall.mpz")), "x");
-    const ImportReportResult english =
-        writeImportReport(dir.path(), source, warned(), QStringLiteral("English"), kNoon);
+    const ImportReportResult english = report(dir.path(), source, warned());
     ShoutingTranslator shouting;
     QCoreApplication::installTranslator(&shouting);
-    const ImportReportResult loud =
-        writeImportReport(dir.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    const ImportReportResult loud = report(dir.path(), source, warned(), QStringLiteral("Loud"));
     // A fresh folder in the other language shows both blocks.
-    QTemporaryDir other;
-    const ImportReportResult fresh =
-        writeImportReport(other.path(), source, warned(), QStringLiteral("Loud"), kNoon);
+    const ImportReportResult fresh = report(other.path(), source, warned(), QStringLiteral("Loud"));
     QCoreApplication::removeTranslator(&shouting);
     QVERIFY(loud.reused);
     QCOMPARE(loud.folder, english.folder);
-    const QString text =
-        QString::fromUtf8(read(QDir(fresh.folder).filePath(QStringLiteral("report.txt"))));
+    const QString text = reportText(fresh);
     QVERIFY(text.contains(QStringLiteral("Warnings:\n  1. 2 fixture(s) are incomplete")));
-    QVERIFY(text.contains(
-        QStringLiteral("--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE "
-                       "INCOMPLETE")));
+    QVERIFY(text.contains(QStringLiteral(
+        "--- In the interface language (Loud) ---\n\nWARNINGS:\n  1. 2 FIXTURE(S) ARE INCOMPLETE")));
 }
 
 void TestImportReport::foldersWithinOneSecondCount()
 {
     QTemporaryDir dir;
+    const QString logs = dir.filePath(QStringLiteral("logs"));
+    QVERIFY(QDir().mkpath(logs));
     QStringList names;
     for (int i = 0; i < 3; ++i) {
-        const QString source =
-            write(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i));
-        const QString logs = dir.filePath(QStringLiteral("logs"));
-        QDir().mkpath(logs);
-        const ImportReportResult r =
-            writeImportReport(logs, source, warned(), QStringLiteral("English"), kNoon);
+        const ImportReportResult r = report(
+            logs, write(dir.filePath(QStringLiteral("p%1.mpz").arg(i)), QByteArray::number(i)), warned());
         QVERIFY(r.ok);
         names.append(QFileInfo(r.folder).fileName());
     }
@@ -196,18 +195,16 @@ void TestImportReport::unreadableSource()
 {
     QTemporaryDir dir;
     const QString source = dir.filePath(QStringLiteral("gone.tpatch"));
-    const ImportReportResult r =
-        writeImportReport(dir.path(), source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult r = report(dir.path(), source, failed());
     QVERIFY(r.ok);
-    const QString text = QString::fromUtf8(read(QDir(r.folder).filePath(QStringLiteral("report.txt"))));
+    const QString text = reportText(r);
     QVERIFY(text.contains(QStringLiteral("\nSHA-256:   -\n")));
     QVERIFY(text.contains(QStringLiteral("\nCopy:      not saved - the source could not be read: ")));
     QCOMPARE(QDir(r.folder).entryList(QDir::Files), QStringList{QStringLiteral("report.txt")});
 
     // A logs folder that cannot be made is a failure with the folder named.
     const QString blocker = write(dir.filePath(QStringLiteral("file")), "x");
-    const ImportReportResult bad =
-        writeImportReport(blocker, source, failed(), QStringLiteral("English"), kNoon);
+    const ImportReportResult bad = report(blocker, source, failed());
     QVERIFY(!bad.ok);
     QCOMPARE(bad.error, QStringLiteral("could not create %1")
                             .arg(QDir::toNativeSeparators(
@@ -217,13 +214,12 @@ void TestImportReport::unreadableSource()
 void TestImportReport::copyStaysInsideTheFolder()
 {
     QTemporaryDir dir;
-    QDir().mkpath(dir.filePath(QStringLiteral("deep/er")));
-    const QString source = write(dir.filePath(QStringLiteral("deep/er/report.txt")), "not a report");
+    QVERIFY(QDir().mkpath(dir.filePath(QStringLiteral("deep/er"))));
+    write(dir.filePath(QStringLiteral("deep/er/report.txt")), "not a report");
     const QString logs = dir.filePath(QStringLiteral("logs"));
-    QDir().mkpath(logs);
+    QVERIFY(QDir().mkpath(logs));
     const ImportReportResult r =
-        writeImportReport(logs, dir.filePath(QStringLiteral("deep/../deep/er/report.txt")), warned(),
-                          QStringLiteral("English"), kNoon);
+        report(logs, dir.filePath(QStringLiteral("deep/../deep/er/report.txt")), warned());
     QVERIFY(r.ok);
     QCOMPARE(QDir(r.folder).entryList(QDir::Files, QDir::Name),
              (QStringList{QStringLiteral("report.txt"), QStringLiteral("source-report.txt")}));

@@ -16,6 +16,18 @@ Q_DECLARE_METATYPE(MadrixSampleFixture)
 namespace {
 
 const QString kFile = QStringLiteral("show.mpz");
+// The one-fixture warnings, word for word.
+const QString kRotated = QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation "
+                                        "has not been verified against MADRIX yet. Check them on the monitor.");
+const QString kWide = QStringLiteral("1 fixture(s) have pixels whose color channels span more than 6 DMX "
+                                     "channels; only the first 6 are shown.");
+const QString kPast512 = QStringLiteral("1 fixture(s) run past DMX channel 512 of their universe; channels "
+                                        "beyond 512 are not shown.");
+const QString kNoColour =
+    QStringLiteral("1 fixture(s) have no color channel the tester can show and were skipped.");
+const QString kBadUniverse =
+    QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped.");
+const QString kIncomplete = QStringLiteral("1 fixture(s) are incomplete in the file and were skipped.");
 
 QString cellsText(const PatchFixture &f)
 {
@@ -97,112 +109,91 @@ void TestMadrixReader::mapping_data()
     QTest::addColumn<int>("address");
     QTest::addColumn<QString>("cells");
     QTest::addColumn<QStringList>("warnings");
-
+    const auto shown = [](const char *tag, const MadrixSampleFixture &f, int portAddress, const char *roles,
+                          int address, const char *cells, const QStringList &warnings = {}) {
+        QTest::newRow(tag) << f << true << portAddress << roles << address << cells << warnings;
+    };
+    const auto skipped = [](const char *tag, const MadrixSampleFixture &f, const QStringList &warnings) {
+        QTest::newRow(tag) << f << false << 0 << "" << 0 << "" << warnings;
+    };
     const QString ignoredAmber =
         QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4)");
-    const QString rotated =
-        QStringLiteral("1 rotated multi-pixel fixture(s): the pixel layout after rotation has not "
-                       "been verified against MADRIX yet. Check them on the monitor.");
-    const QString badUniverse = QStringLiteral("1 fixture(s) use a universe that does not fit an Art-Net "
-                                               "Port-Address and were skipped.");
-    const QString incomplete = QStringLiteral("1 fixture(s) are incomplete in the file and were skipped.");
 
     MadrixSampleFixture f = rgbFixture(QStringLiteral("T"));
-    QTest::newRow("rgb in universe 1") << f << true << 0 << "123000" << 0 << "0,0" << QStringList();
+    shown("rgb in universe 1", f, 0, "123000", 0, "0,0");
     f.universe = QStringLiteral("32768");
-    QTest::newRow("universe 32768 is 32767") << f << true << 32767 << "123000" << 0 << "0,0" << QStringList();
-    f.universe = QStringLiteral("32769");
-    QTest::newRow("universe 32769") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
-    f.universe = QStringLiteral("4294967297");
-    QTest::newRow("universe wrapping 32 bits")
-        << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
-    f.universe = QStringLiteral("0");
-    QTest::newRow("universe 0") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
-    f.universe = QStringLiteral("-4");
-    QTest::newRow("negative universe") << f << false << 0 << "" << 0 << "" << QStringList{badUniverse};
+    shown("universe 32768 is 32767", f, 32767, "123000", 0, "0,0");
+    // Past the last Port-Address, wrapping 32 bits, zero and negative.
+    for (const char *universe : {"32769", "4294967297", "0", "-4"}) {
+        f.universe = QString::fromLatin1(universe);
+        skipped(universe, f, {kBadUniverse});
+    }
 
     f = rgbFixture(QStringLiteral("T"));
     f.channels.append(channel("Cool White", 3, 5));
-    QTest::newRow("cool white is CW") << f << true << 0 << "123500" << 0 << "0,0" << QStringList();
+    shown("cool white is CW", f, 0, "123500", 0, "0,0");
     f.channels.last() = channel("Cold White", 3, 7);
-    QTest::newRow("cold white is CW") << f << true << 0 << "123500" << 0 << "0,0" << QStringList();
+    shown("cold white is CW", f, 0, "123500", 0, "0,0");
     f.channels.last() = channel("Warm White", 3, 4);
-    QTest::newRow("warm white is WW") << f << true << 0 << "123600" << 0 << "0,0" << QStringList();
+    shown("warm white is WW", f, 0, "123600", 0, "0,0");
     f.channels.last() = channel("White", 3, 3);
-    QTest::newRow("colour 3 is W") << f << true << 0 << "123400" << 0 << "0,0" << QStringList();
+    shown("colour 3 is W", f, 0, "123400", 0, "0,0");
     f.channels.last() = channel("Amber", 3, 4);
-    QTest::newRow("amber ignored") << f << true << 0 << "123000" << 0 << "0,0" << QStringList{ignoredAmber};
+    shown("amber ignored", f, 0, "123000", 0, "0,0", {ignoredAmber});
 
     f = rgbFixture(QStringLiteral("T"));
     f.channels = {channel("Mode", 0, 9, 255), channel("Red", 1, 0), channel("Green", 2, 1),
                   channel("Blue", 3, 2)};
     f.dmxChannel = QStringLiteral("20");
-    QTest::newRow("fixed channel skipped") << f << true << 0 << "123000" << 21 << "0,0" << QStringList();
+    shown("fixed channel skipped", f, 0, "123000", 21, "0,0");
     f.channels = {channel("Blue", 2, 2), channel("Red", 0, 0), channel("Green", 1, 1)};
-    QTest::newRow("channel-number order") << f << true << 0 << "123000" << 20 << "0,0" << QStringList();
+    shown("channel-number order", f, 0, "123000", 20, "0,0");
     f.channels = {channel("Red", 0, 0), channel("Green", 1, 1), channel("Blue", 7, 2)};
-    QTest::newRow("wide pixel") << f << true << 0 << "120000" << 20 << "0,0"
-                                << QStringList{QStringLiteral(
-                                       "1 fixture(s) have pixels whose color channels span "
-                                       "more than 6 DMX channels; only the first 6 are shown.")};
+    shown("wide pixel", f, 0, "120000", 20, "0,0", {kWide});
     f = rgbFixture(QStringLiteral("T"));
     f.dmxChannel = QStringLiteral("510");
-    QTest::newRow("past 512") << f << true << 0 << "123000" << 510 << "0,0"
-                              << QStringList{QStringLiteral(
-                                     "1 fixture(s) run past DMX channel 512 of their universe; "
-                                     "channels beyond 512 are not shown.")};
+    shown("past 512", f, 0, "123000", 510, "0,0", {kPast512});
     f.dmxChannel = QStringLiteral("509");
-    QTest::newRow("ends on 512") << f << true << 0 << "123000" << 509 << "0,0" << QStringList();
+    shown("ends on 512", f, 0, "123000", 509, "0,0");
 
     // A 3 x 2 grid, pixels numbered row by row.
     f = rgbFixture(QStringLiteral("T"));
     f.pixelCount = QStringLiteral("3, 2, 1");
     f.channels = madrixChannels(6, QStringLiteral("RGB"));
-    QTest::newRow("grid unrotated") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
-                                    << QStringList();
+    shown("grid unrotated", f, 0, "123000", 0, "0,0;1,0;2,0;0,1;1,1;2,1");
     f.rotation = QStringLiteral("1");
-    QTest::newRow("quarter turn") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
-                                  << QStringList{rotated};
+    shown("quarter turn", f, 0, "123000", 0, "1,0;1,1;1,2;0,0;0,1;0,2", {kRotated});
     f.rotation = QStringLiteral("2");
-    QTest::newRow("half turn") << f << true << 0 << "123000" << 0 << "2,1;1,1;0,1;2,0;1,0;0,0"
-                               << QStringList{rotated};
+    shown("half turn", f, 0, "123000", 0, "2,1;1,1;0,1;2,0;1,0;0,0", {kRotated});
     f.rotation = QStringLiteral("3");
-    QTest::newRow("three quarters") << f << true << 0 << "123000" << 0 << "0,2;0,1;0,0;1,2;1,1;1,0"
-                                    << QStringList{rotated};
+    shown("three quarters", f, 0, "123000", 0, "0,2;0,1;0,0;1,2;1,1;1,0", {kRotated});
     f.rotation = QStringLiteral("5");
-    QTest::newRow("low two bits") << f << true << 0 << "123000" << 0 << "1,0;1,1;1,2;0,0;0,1;0,2"
-                                  << QStringList{rotated};
+    shown("low two bits", f, 0, "123000", 0, "1,0;1,1;1,2;0,0;0,1;0,2", {kRotated});
     f.rotation = QStringLiteral("quarter");
-    QTest::newRow("odd rotation") << f << true << 0 << "123000" << 0 << "0,0;1,0;2,0;0,1;1,1;2,1"
-                                  << QStringList{
-                                         QStringLiteral("Some MADRIX fields are not supported yet and were "
-                                                        "ignored: fixture_settings/rotation=quarter")};
+    shown("odd rotation", f, 0, "123000", 0, "0,0;1,0;2,0;0,1;1,1;2,1",
+          {QStringLiteral("Some MADRIX fields are not supported yet and were ignored: "
+                          "fixture_settings/rotation=quarter")});
     f = rgbFixture(QStringLiteral("T"));
     f.rotation = QStringLiteral("1");
-    QTest::newRow("turned single pixel") << f << true << 0 << "123000" << 0 << "0,0" << QStringList();
+    shown("turned single pixel", f, 0, "123000", 0, "0,0");
 
     f = rgbFixture(QStringLiteral("T"));
     f.protocolType = QStringLiteral("DVI");
-    QTest::newRow("dvi") << f << false << 0 << "" << 0 << ""
-                         << QStringList{
-                                QStringLiteral("1 DVI fixture(s) were skipped: they have no DMX address, so "
-                                               "nothing of theirs reaches Art-Net.")};
+    skipped("dvi", f,
+            {QStringLiteral("1 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs "
+                            "reaches Art-Net.")});
     f = rgbFixture(QStringLiteral("T"));
     f.channels = {channel("Amber", 0, 4)};
-    QTest::newRow("only amber") << f << false << 0 << "" << 0 << ""
-                                << QStringList{ignoredAmber,
-                                               QStringLiteral("1 fixture(s) have no color channel the "
-                                                              "tester can show and were skipped.")};
+    skipped("only amber", f, {ignoredAmber, kNoColour});
     f = rgbFixture(QStringLiteral("T"));
     f.withSettings = false;
-    QTest::newRow("no settings") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    skipped("no settings", f, {kIncomplete});
     f = rgbFixture(QStringLiteral("T"));
     f.universe = QStringLiteral("one");
-    QTest::newRow("universe not a number") << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    skipped("universe not a number", f, {kIncomplete});
     f = rgbFixture(QStringLiteral("T"));
     f.pixelCount = QStringLiteral("4, 1");
-    QTest::newRow("fewer channels than pixels")
-        << f << false << 0 << "" << 0 << "" << QStringList{incomplete};
+    skipped("fewer channels than pixels", f, {kIncomplete});
 }
 
 void TestMadrixReader::mapping()
@@ -228,8 +219,7 @@ void TestMadrixReader::mapping()
     QCOMPARE(cellsText(*f), cells);
 }
 
-// The rule the monitor relies on: one matrix voxel is a 10 x 10 scene cell, the
-// rectangle holds the turned grid, and the scene position is the matrix position.
+// A matrix voxel is a 10 x 10 scene cell; rect holds the turned grid; the scene position is the matrix one.
 void TestMadrixReader::placement()
 {
     MadrixSampleFixture f = rgbFixture(QStringLiteral("T"));
@@ -242,30 +232,26 @@ void TestMadrixReader::placement()
     QVERIFY(p);
     QVERIFY(p->hasLayout);
     QVERIFY(!p->freePositions);
-    QCOMPARE(p->scenePosX, 40.0);
-    QCOMPARE(p->scenePosY, 20.0);
+    QCOMPARE((QList<double>{p->scenePosX, p->scenePosY, p->rotationAngle}), (QList<double>{40, 20, 0}));
     QCOMPARE(p->rect, QRectF(0, 0, 20, 30)); // 2 wide, 3 high after the quarter turn
-    QCOMPARE(p->rotationAngle, 0.0);
-    QCOMPARE(int(p->countX), 2);
-    QCOMPARE(int(p->countY), 3);
-    QCOMPARE(p->dimX, 2);
-    QCOMPARE(p->dimY, 3);
-    QCOMPARE(p->resizeFactor, 1);
+    QCOMPARE((QList<int>{p->countX, p->countY, p->dimX, p->dimY, p->resizeFactor}),
+             (QList<int>{2, 3, 2, 3, 1}));
     for (const LedRecord &led : p->leds)
         QCOMPARE(int(led.posZ), 7);
     QCOMPARE(int(p->leds.at(1).address), 3);
 
+    const PatchGroup &g = r.patch.groups.first();
     QCOMPARE(r.patch.groups.size(), 1);
-    QCOMPARE(r.patch.groups.first().groupName, QStringLiteral("MADRIX"));
-    QVERIFY(!r.patch.groups.first().groupId.isNull());
+    QCOMPARE(g.groupName, QStringLiteral("MADRIX"));
+    QVERIFY(!g.groupId.isNull());
     QCOMPARE(r.patch.formatLabel, QStringLiteral("MADRIX 5 patch (.mpz)"));
     QCOMPARE(r.patch.sourceKind, SourceKind::Madrix);
     // Torvoverses ascend by Port-Address: universe 1 (0x0000) before the baseline's 9 (0x0008).
-    QCOMPARE(r.patch.groups.first().torvoverses.size(), 2);
-    QCOMPARE(int(portAddress(r.patch.groups.first().torvoverses.at(0))), 0);
-    QCOMPARE(int(portAddress(r.patch.groups.first().torvoverses.at(1))), 8);
+    QCOMPARE(g.torvoverses.size(), 2);
+    QCOMPARE(int(portAddress(g.torvoverses.at(0))), 0);
+    QCOMPARE(int(portAddress(g.torvoverses.at(1))), 8);
     const PatchLoadResult again = parseMadrixPatch(writeMadrixXml(withBaseline(f)), kFile, kFile);
-    QVERIFY(again.patch.groups.first().groupId != r.patch.groups.first().groupId);
+    QVERIFY(again.patch.groups.first().groupId != g.groupId);
 }
 
 void TestMadrixReader::everyWarningInOrder()
@@ -275,24 +261,18 @@ void TestMadrixReader::everyWarningInOrder()
     s.product = QStringLiteral("MADRIX 5.1");
     s.extraElements = {QStringLiteral("save_date"), QStringLiteral("is_patched")};
     s.fixtureGroups = 3;
-    MadrixSampleFixture good = rgbFixture(QStringLiteral("good"));
-    MadrixSampleFixture rotated = good;
+    const MadrixSampleFixture good = rgbFixture(QStringLiteral("good"));
+    MadrixSampleFixture rotated = good, amber = good, wide = good, past = good, dvi = good, dark = good,
+                        far = good, broken = good;
     rotated.pixelCount = QStringLiteral("2, 1");
     rotated.channels = madrixChannels(2, QStringLiteral("RGB"));
     rotated.rotation = QStringLiteral("2");
-    MadrixSampleFixture amber = good;
     amber.channels.append(channel("Amber", 3, 4));
-    MadrixSampleFixture wide = good;
     wide.channels.last().number = QStringLiteral("9");
-    MadrixSampleFixture past = good;
     past.dmxChannel = QStringLiteral("511");
-    MadrixSampleFixture dvi = good;
     dvi.protocolType = QStringLiteral("DVI");
-    MadrixSampleFixture dark = good;
     dark.channels = {channel("UV", 0, 6)};
-    MadrixSampleFixture far = good;
     far.universe = QStringLiteral("40000");
-    MadrixSampleFixture broken = good;
     broken.withSpecification = false;
     s.fixtures = {good, rotated, amber, wide, past, dvi, dvi, dark, far, broken};
 
@@ -301,30 +281,22 @@ void TestMadrixReader::everyWarningInOrder()
     QCOMPARE(r.patch.importedFrom, QStringLiteral("MADRIX 5.1 (file version 0x05010000)"));
     const QStringList expected{
         QStringLiteral(
-            "\"show.mpz\" was saved by MADRIX 5.1 (file version 0x05010000), which this importer has not "
-            "been checked against. Verify the result on the monitor."),
-        QStringLiteral(
-            "Some MADRIX fields are not supported yet and were ignored: product, save_date, is_patched, "
-            "fixture_group_list"),
+            "\"show.mpz\" was saved by MADRIX 5.1 (file version 0x05010000), which this importer has "
+            "not been checked against. Verify the result on the monitor."),
+        QStringLiteral("Some MADRIX fields are not supported yet and were ignored: product, save_date, "
+                       "is_patched, fixture_group_list"),
         QStringLiteral(
             "3 MADRIX fixture group(s) were found, but groups are not imported yet; all fixtures were "
             "placed in one group."),
-        QStringLiteral(
-            "1 rotated multi-pixel fixture(s): the pixel layout after rotation has not been verified "
-            "against MADRIX yet. Check them on the monitor."),
+        kRotated,
         QStringLiteral("Color channels the tester cannot show yet were ignored: Amber (4), UV (6)"),
-        QStringLiteral(
-            "1 fixture(s) have pixels whose color channels span more than 6 DMX channels; only the first "
-            "6 are shown."),
-        QStringLiteral(
-            "1 fixture(s) run past DMX channel 512 of their universe; channels beyond 512 are not shown."),
-        QStringLiteral(
-            "2 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs reaches "
-            "Art-Net."),
-        QStringLiteral("1 fixture(s) have no color channel the tester can show and were skipped."),
-        QStringLiteral(
-            "1 fixture(s) use a universe that does not fit an Art-Net Port-Address and were skipped."),
-        QStringLiteral("1 fixture(s) are incomplete in the file and were skipped."),
+        kWide,
+        kPast512,
+        QStringLiteral("2 DVI fixture(s) were skipped: they have no DMX address, so nothing of theirs "
+                       "reaches Art-Net."),
+        kNoColour,
+        kBadUniverse,
+        kIncomplete,
     };
     QCOMPARE(PatchTexts::warnings(r), expected);
 }
@@ -333,11 +305,12 @@ void TestMadrixReader::failures_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("error"); // exact, or a prefix when it ends in "..."
-
     const QString unreadable = QStringLiteral("\"show.mpz\" is not a readable MADRIX patch: ");
-    QTest::newRow("empty") << QByteArray() << unreadable + QStringLiteral("the document has no root element");
-    QTest::newRow("only a declaration") << QByteArray("<?xml version=\"1.0\"?>\n")
-                                        << unreadable + QStringLiteral("the document has no root element");
+    const QString noRoot = unreadable + QStringLiteral("the document has no root element");
+    const QString truncated = unreadable + QStringLiteral("the file is truncated");
+    const QString nothing = QStringLiteral("\"show.mpz\" contains no DMX fixtures that can be shown.");
+    QTest::newRow("empty") << QByteArray() << noRoot;
+    QTest::newRow("only a declaration") << QByteArray("<?xml version=\"1.0\"?>\n") << noRoot;
     QTest::newRow("other root") << QByteArray("<console appVersion=\"1\"/>")
                                 << unreadable + QStringLiteral("the <madrix_patch> root element is missing");
     QTest::newRow("no list") << QByteArray("<madrix_patch version=\"0x05000000\"><patch/></madrix_patch>")
@@ -347,9 +320,8 @@ void TestMadrixReader::failures_data()
     QTest::newRow("not xml") << QByteArray("{\"corePatchData\": []}") << unreadable + QStringLiteral("...");
 
     const QByteArray gz = gzipCompress(writeMadrixXml(withBaseline(rgbFixture(QStringLiteral("T")))));
-    QTest::newRow("truncated gzip") << gz.left(gz.size() / 2)
-                                    << unreadable + QStringLiteral("the file is truncated");
-    QTest::newRow("gzip header only") << gz.left(10) << unreadable + QStringLiteral("the file is truncated");
+    QTest::newRow("truncated gzip") << gz.left(gz.size() / 2) << truncated;
+    QTest::newRow("gzip header only") << gz.left(10) << truncated;
     QByteArray corrupt = gz;
     for (qsizetype i = 12; i < corrupt.size() - 8; i += 7)
         corrupt[i] = char(corrupt.at(i) ^ 0x5A);
@@ -358,16 +330,11 @@ void TestMadrixReader::failures_data()
     badCrc[badCrc.size() - 6] = char(badCrc.at(badCrc.size() - 6) ^ 1);
     QTest::newRow("bad checksum") << badCrc << unreadable + QStringLiteral("incorrect data check");
 
-    MadrixSample nothing;
-    MadrixSampleFixture dvi = rgbFixture(QStringLiteral("T"));
-    dvi.protocolType = QStringLiteral("DVI");
-    nothing.fixtures = {dvi};
-    QTest::newRow("nothing to show") << writeMadrixXml(nothing)
-                                     << QStringLiteral(
-                                            "\"show.mpz\" contains no DMX fixtures that can be shown.");
-    nothing.fixtures.clear();
-    QTest::newRow("empty list") << writeMadrixXml(nothing)
-                                << QStringLiteral("\"show.mpz\" contains no DMX fixtures that can be shown.");
+    MadrixSample none;
+    QTest::newRow("empty list") << writeMadrixXml(none) << nothing;
+    none.fixtures = {rgbFixture(QStringLiteral("T"))};
+    none.fixtures[0].protocolType = QStringLiteral("DVI");
+    QTest::newRow("nothing to show") << writeMadrixXml(none) << nothing;
 }
 
 void TestMadrixReader::failures()
@@ -385,17 +352,16 @@ void TestMadrixReader::failures()
         QCOMPARE(text, error);
 }
 
+// Opening a missing file is checked through the loader (tst_patchloader, every format).
 void TestMadrixReader::plainAndGzipReadAlike()
 {
-    MadrixSample s = makeMadrixMatrix(400, 20);
-    const QByteArray xml = writeMadrixXml(s);
+    const QByteArray xml = writeMadrixXml(makeMadrixMatrix(400, 20));
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
     const QString plainPath = TestFiles::write(dir.filePath(QStringLiteral("plain.mpz")), xml);
-    const QString gzipPath = TestFiles::write(dir.filePath(QStringLiteral("packed.mpz")), gzipCompress(xml));
-
     const PatchLoadResult a = readMadrixPatch(plainPath);
-    const PatchLoadResult b = readMadrixPatch(gzipPath);
+    const PatchLoadResult b =
+        readMadrixPatch(TestFiles::write(dir.filePath(QStringLiteral("packed.mpz")), gzipCompress(xml)));
     QVERIFY(a.ok);
     QVERIFY(b.ok);
     QCOMPARE(countPatch(a.patch).fixtures, 400);
@@ -407,10 +373,6 @@ void TestMadrixReader::plainAndGzipReadAlike()
     const Torvoverse &t = b.patch.groups.first().torvoverses.at(1);
     QCOMPARE(int(t.fixtures.first().leds.first().address), 0);
     QCOMPARE(t.fixtures.first().scenePosX, 170 % 20 * 10.0);
-
-    const PatchLoadResult missing = readMadrixPatch(dir.filePath(QStringLiteral("gone.mpz")));
-    QVERIFY(!missing.ok);
-    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.mpz\": ")));
 }
 
 void TestMadrixReader::gzipBombStopsAtTheLimit()
@@ -423,7 +385,6 @@ void TestMadrixReader::gzipBombStopsAtTheLimit()
     QVERIFY(!over.ok);
     QVERIFY(over.bytes.isEmpty());
     QCOMPARE(over.error.untranslatedText(), QStringLiteral("the unpacked data is too large"));
-
     // The real limit through the reader: a file of well under a megabyte.
     const QByteArray bomb = gzipBomb(kMaxInflatedBytes);
     QVERIFY(bomb.size() < 1024 * 1024);
@@ -436,9 +397,7 @@ void TestMadrixReader::gzipBombStopsAtTheLimit()
 void TestMadrixReader::hostileXmlIsBounded_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("ok");
     QTest::addColumn<bool>("tooDeep"); // refused for nesting elements more than 256 deep
-
     QByteArray laughs =
         "<?xml version=\"1.0\"?>\n<!DOCTYPE madrix_patch [\n<!ENTITY a0 \"hahahahahahahahahaha\">\n";
     for (int i = 1; i < 12; ++i)
@@ -447,47 +406,43 @@ void TestMadrixReader::hostileXmlIsBounded_data()
                       .arg(i - 1)
                       .toLatin1();
     laughs += "]>\n<madrix_patch><product>&a11;</product><patch><fixture_list/></patch></madrix_patch>";
-    QTest::newRow("entity expansion") << laughs << false << false;
-
-    QByteArray deep = "<madrix_patch><patch><fixture_list><fixture><fixture_settings>";
-    deep += QByteArray("<a>").repeated(100000);
-    deep += QByteArray("</a>").repeated(100000);
-    deep += "</fixture_settings></fixture></fixture_list></patch></madrix_patch>";
-    QTest::newRow("deep nesting in a fixture") << deep << false << true;
-    QByteArray deepTop = "<madrix_patch>" + QByteArray("<x>").repeated(200000);
-    QTest::newRow("deep and unclosed") << deepTop << false << true;
-    QByteArray deepPatch = "<madrix_patch>" + QByteArray("<patch>").repeated(300);
-    QTest::newRow("nested patch elements") << deepPatch << false << true;
-    QByteArray deepText = "<madrix_patch><product>" + QByteArray("<b>").repeated(300);
-    QTest::newRow("deep inside a text element") << deepText << false << true;
-    // The root at depth 1, the list at 3: 253 more levels reach 256 exactly.
-    QByteArray deepest = "<madrix_patch><patch><fixture_list>" + QByteArray("<a>").repeated(253)
-                         + QByteArray("</a>").repeated(253) + "</fixture_list></patch></madrix_patch>";
-    QTest::newRow("256 deep is read") << deepest << false << false;
-
+    QTest::newRow("entity expansion") << laughs << false;
     QTest::newRow("external entity")
         << QByteArray("<?xml version=\"1.0\"?><!DOCTYPE m [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>"
                       "<madrix_patch><product>&e;</product><patch><fixture_list/></patch></madrix_patch>")
-        << false << false;
+        << false;
+    QTest::newRow("deep nesting in a fixture")
+        << "<madrix_patch><patch><fixture_list><fixture><fixture_settings>" +
+               QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
+               "</fixture_settings></fixture></fixture_list></patch></madrix_patch>"
+        << true;
+    QTest::newRow("deep and unclosed") << "<madrix_patch>" + QByteArray("<x>").repeated(200000) << true;
+    QTest::newRow("nested patch elements") << "<madrix_patch>" + QByteArray("<patch>").repeated(300) << true;
+    QTest::newRow("deep inside a text element")
+        << "<madrix_patch><product>" + QByteArray("<b>").repeated(300) << true;
+    // The root at depth 1, the list at 3: 253 more levels reach 256 exactly.
+    QTest::newRow("256 deep is read")
+        << "<madrix_patch><patch><fixture_list>" + QByteArray("<a>").repeated(253) +
+               QByteArray("</a>").repeated(253) + "</fixture_list></patch></madrix_patch>"
+        << false;
 }
 
+// Every row fails: refused, or nothing to show. The time taken is printed for the record.
 void TestMadrixReader::hostileXmlIsBounded()
 {
     QFETCH(QByteArray, bytes);
-    QFETCH(bool, ok);
     QFETCH(bool, tooDeep);
     QElapsedTimer timer;
     timer.start();
     const PatchLoadResult r = parseMadrixPatch(bytes, kFile, kFile);
-    QCOMPARE(r.ok, ok);
+    QVERIFY(!r.ok);
     QVERIFY(!r.error.isEmpty());
-    QCOMPARE(r.error.untranslatedText().contains(QStringLiteral("elements are nested more than 256 deep")), tooDeep);
+    QCOMPARE(r.error.untranslatedText().contains(QStringLiteral("elements are nested more than 256 deep")),
+             tooDeep);
     qInfo("%s in %lld ms", qPrintable(r.error.untranslatedText().left(160)), timer.elapsed());
 }
 
-// Large documents are read in two halves on two threads; the result must be
-// the single pass's, fixture for fixture and warning for warning. A document
-// type declaration keeps a document in one pass, which gives the reference.
+// Large documents are read in two halves on two threads; a DOCTYPE forces the single pass, the reference.
 void TestMadrixReader::largePatchReadsAsInOnePass_data()
 {
     QTest::addColumn<QByteArray>("xml");
@@ -504,8 +459,7 @@ void TestMadrixReader::largePatchReadsAsInOnePass_data()
     QTest::newRow("between fixtures") << xml;
     // The middle "<fixture>" sits in a comment: the halves do not parse and the single pass takes over.
     QByteArray commented = xml;
-    const qsizetype middle = commented.indexOf("<fixture>", commented.size() / 2);
-    commented.insert(middle,
+    commented.insert(commented.indexOf("<fixture>", commented.size() / 2),
                      "<!-- a <fixture> mentioned in passing --><fixture><fixture_specification/></fixture>");
     QTest::newRow("cut inside a comment") << commented;
 }
@@ -520,7 +474,8 @@ void TestMadrixReader::largePatchReadsAsInOnePass()
     QVERIFY(split.ok);
     QVERIFY(single.ok);
     QCOMPARE(PatchTexts::warnings(split), PatchTexts::warnings(single));
-    QVERIFY(PatchTexts::warnings(split).join(u'|').contains(QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
+    QVERIFY(PatchTexts::warnings(split).join(u'|').contains(
+        QStringLiteral("Amber (5), Amber (6), UV (5), UV (6)")));
     const QVector<Torvoverse> &a = split.patch.groups.first().torvoverses;
     const QVector<Torvoverse> &b = single.patch.groups.first().torvoverses;
     QCOMPARE(a.size(), b.size());

@@ -32,11 +32,10 @@ void TestPatchKeys::portAddressAndDeviceKey_data()
     QTest::addColumn<int>("portAddress");
     QTest::addColumn<quint64>("deviceKey");
     QTest::addColumn<QString>("shown");
-
-    QTest::newRow("zero") << 0 << 0 << 0 << QVector<qint32>{255, 255, 255, 255} << 0 << Q_UINT64_C(0xFFFFFFFF00000000)
-                          << "0x0000";
+    const QVector<qint32> broadcast{255, 255, 255, 255};
+    QTest::newRow("zero") << 0 << 0 << 0 << broadcast << 0 << Q_UINT64_C(0xFFFFFFFF00000000) << "0x0000";
     QTest::newRow("universe 16 wraps to 0, key keeps it")
-        << 0 << 0 << 16 << QVector<qint32>{255, 255, 255, 255} << 0 << Q_UINT64_C(0xFFFFFFFF00000010) << "0x0000";
+        << 0 << 0 << 16 << broadcast << 0 << Q_UINT64_C(0xFFFFFFFF00000010) << "0x0000";
     QTest::newRow("net sub uni") << 1 << 2 << 3 << QVector<qint32>{10, 0, 0, 7} << 0x0123
                                  << Q_UINT64_C(0x0A00000700010203) << "0x0123";
     QTest::newRow("top of the range") << 127 << 15 << 15 << QVector<qint32>{2, 0, 0, 1} << 0x7FFF
@@ -70,7 +69,6 @@ void TestPatchKeys::kineticChannelRule_data()
 {
     QTest::addColumn<QVector<KineticStructure>>("structures");
     QTest::addColumn<KineticChannel>("expected");
-
     using S = KineticStructure;
     QTest::newRow("16-bit colour, gap, position")
         << QVector<S>{{3, 1, true}, {0, 0, false}, {5, 6, false}} << KineticChannel{true, 100 + 2, false};
@@ -93,10 +91,7 @@ void TestPatchKeys::kineticChannelRule()
     r.address = 100;
     for (int i = 0; i < structures.size(); ++i)
         r.structures[i] = structures.at(i);
-    const KineticChannel got = kineticChannel(r);
-    QCOMPARE(got.hasChannel, expected.hasChannel);
-    QCOMPARE(got.channel, expected.channel);
-    QCOMPARE(got.is16Bit, expected.is16Bit);
+    QCOMPARE(kineticChannel(r), expected);
 }
 
 void TestPatchKeys::deviceNames_data()
@@ -136,7 +131,6 @@ void TestPatchKeys::messageSubstitution()
     const PatchMessage two("%2 then %1", {QStringLiteral("a"), qint64(-7)});
     QCOMPARE(two.untranslatedText(), QStringLiteral("-7 then a"));
 }
-
 
 QTEST_GUILESS_MAIN(TestPatchKeys)
 #include "tst_patchkeys.moc"

@@ -26,7 +26,6 @@ void TestPatchLoader::sniffing_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("head");
     QTest::addColumn<int>("format");
-
     const int madrix = int(PatchFormat::Madrix), elm = int(PatchFormat::Elm), native = int(PatchFormat::Native);
     QTest::newRow("mpz extension, any content") << "show.mpz" << QByteArray("{}") << madrix;
     QTest::newRow("mpz extension, upper case") << "SHOW.MPZ" << QByteArray() << madrix;
@@ -92,9 +91,16 @@ void TestPatchLoader::loadThroughEntryPoint()
     QCOMPARE(int(r.patch.sourceKind), kind);
     QCOMPARE(r.patch.formatLabel, format);
 
-    const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("gone.") + QFileInfo(name).suffix()));
+    // A missing file, or a folder, under a name of the same kind: the reader the name points to says why.
+    const QString suffix = QFileInfo(name).suffix();
+    const PatchLoadResult missing = loadPatch(dir.filePath(QStringLiteral("gone.") + suffix));
     QVERIFY(!missing.ok);
-    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.")));
+    QVERIFY(missing.error.untranslatedText().startsWith(QStringLiteral("Could not open \"gone.%1\": ").arg(suffix)));
+    QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("folder.") + suffix));
+    const PatchLoadResult folder = loadPatch(dir.filePath(QStringLiteral("folder.") + suffix));
+    QVERIFY(!folder.ok);
+    QCOMPARE(folder.error.untranslatedText(),
+             QStringLiteral("Could not open \"folder.%1\": it is a folder, not a file").arg(suffix));
 }
 
 void TestPatchLoader::bytesLoadAsTheFileWould()
@@ -108,12 +114,7 @@ void TestPatchLoader::bytesLoadAsTheFileWould()
     QVERIFY(fromBytes.error.untranslatedText().contains(QStringLiteral("\"show.tpatch\"")));
 
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("show.tpatch"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(madrix);
-    file.close();
-    const PatchLoadResult fromFile = loadPatch(path);
+    const PatchLoadResult fromFile = loadPatch(TestFiles::write(dir.filePath(QStringLiteral("show.tpatch")), madrix));
     QCOMPARE(fromFile.patch.sourceKind, SourceKind::Madrix);
     QCOMPARE(fromFile.error.untranslatedText(), fromBytes.error.untranslatedText());
 }

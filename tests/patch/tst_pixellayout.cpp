@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 
 using namespace TPatch;
@@ -58,6 +59,11 @@ bool fuzzyPoint(const QPointF &a, const QPointF &b)
     return std::fabs(a.x() - b.x()) < 1e-9 && std::fabs(a.y() - b.y()) < 1e-9;
 }
 
+bool fuzzyRect(const QRectF &a, const QRectF &b)
+{
+    return fuzzyPoint(a.topLeft(), b.topLeft()) && fuzzyPoint(a.bottomRight(), b.bottomRight());
+}
+
 QString warningText(const PixelLayout &l)
 {
     return l.warnings.isEmpty() ? QString() : l.warnings.constFirst().untranslatedText();
@@ -70,7 +76,6 @@ class TestPixelLayout : public QObject
     Q_OBJECT
 
 private slots:
-    void noLayoutNoPixels();
     void gridCells_data();
     void gridCells();
     void onePositionFillsRect();
@@ -89,26 +94,13 @@ private slots:
     void badInput();
 };
 
-void TestPixelLayout::noLayoutNoPixels()
-{
-    PatchFixture f = grid(4, 4, QRectF(0, 0, 40, 40));
-    f.hasLayout = false;
-    const PixelLayout l = buildPixelLayout(patchOf({f, f}));
-    QVERIFY(l.pixels.isEmpty());
-    QVERIFY(l.sceneRect.isEmpty());
-    QVERIFY(!l.zRange.seen);
-    QVERIFY(l.warnings.isEmpty());
-    QVERIFY(l.pixelsForPortAddress(0).isEmpty());
-}
-
 void TestPixelLayout::gridCells_data()
 {
     QTest::addColumn<int>("countX");
     QTest::addColumn<int>("countY");
     QTest::addColumn<QRectF>("rect");
     QTest::addColumn<int>("resizeFactor");
-    // Whatever the cell constants, each record gets rect / count: square cells
-    // when the rectangle has the grid's aspect.
+    // Each record gets rect / count: square cells when the rectangle has the grid's aspect.
     QTest::newRow("matrix 16x10") << 16 << 10 << QRectF(0, 0, 160, 100) << 1;
     QTest::newRow("strip 170x1") << 170 << 1 << QRectF(0, 0, 1700, 10) << 1;
     QTest::newRow("column 1x30") << 1 << 30 << QRectF(5, 7, 4, 120) << 4;
@@ -129,17 +121,13 @@ void TestPixelLayout::gridCells()
     for (int i = 0; i < l.pixels.size(); ++i) {
         const LayoutPixel &p = l.pixels.at(i);
         const QRectF expected(100 + rect.x() + (i % countX) * w, 50 + rect.y() + (i / countX) * h, w, h);
-        QVERIFY2(fuzzyPoint(p.bounds.topLeft(), expected.topLeft()) && fuzzyPoint(p.bounds.bottomRight(),
-                                                                                   expected.bottomRight()),
-                 qPrintable(QStringLiteral("pixel %1").arg(i)));
+        QVERIFY2(fuzzyRect(p.bounds, expected), qPrintable(QStringLiteral("pixel %1").arg(i)));
         QVERIFY(p.isAxisAligned());
         QVERIFY(fuzzyPoint(p.centre, expected.center()));
         QVERIFY(fuzzyPoint(p.outline[0], expected.topLeft())); // corners clockwise from top-left
         QVERIFY(fuzzyPoint(p.outline[2], expected.bottomRight()));
     }
-    const QRectF scene = rect.translated(100, 50);
-    QVERIFY(fuzzyPoint(l.sceneRect.topLeft(), scene.topLeft()));
-    QVERIFY(fuzzyPoint(l.sceneRect.bottomRight(), scene.bottomRight()));
+    QVERIFY(fuzzyRect(l.sceneRect, rect.translated(100, 50)));
     QVERIFY(l.warnings.isEmpty());
 }
 
@@ -172,8 +160,8 @@ void TestPixelLayout::rotationAndWarpOrder_data()
     QTest::newRow("rotate 90") << 90.0 << QTransform() << QPointF(105, 15) << QPointF(105, -5);
     QTest::newRow("rotate -90") << -90.0 << QTransform() << QPointF(115, -5) << QPointF(115, 15);
     // The warp acts in fixture coordinates, before the rotation about the centre.
-    QTest::newRow("warp then rotate") << 90.0 << QTransform::fromTranslate(10, 0) << QPointF(105, 5)
-                                      << QPointF(105, -15);
+    QTest::newRow("warp then rotate")
+        << 90.0 << QTransform::fromTranslate(10, 0) << QPointF(105, 5) << QPointF(105, -15);
     QTest::newRow("projective warp") << 0.0 << QTransform(1, 0, 0.01, 0, 1, 0, 0, 0, 1) << QPointF(100, 0)
                                      << QPointF(100 + 20 / 1.2, 0); // divided before the move
 }
@@ -230,19 +218,18 @@ void TestPixelLayout::hashes()
     Torvoverse third = second;
     third.universe = 2;
     third.fixtures[0].hasLayout = false; // nothing drawn: no entry at all
-    PatchGroup g2;
-    g2.torvoverses = {second, third};
-    p.groups.append(g2);
+    p.groups.append(PatchGroup{});
+    p.groups[1].torvoverses = {second, third};
     const PixelLayout l = buildPixelLayout(p);
     QCOMPARE(l.pixelsForPortAddress(0x0001), (QVector<int>{0, 1, 2, 3}));
     QCOMPARE(l.pixelsForDeviceKey(deviceKey(p.groups[0].torvoverses[0])), (QVector<int>{0, 1}));
     QCOMPARE(l.pixelsForDeviceKey(deviceKey(second)), (QVector<int>{2, 3}));
     QVERIFY(l.pixelsForPortAddress(0x0002).isEmpty());
     QVERIFY(!l.portAddressPixels.contains(0x0002));
-    QCOMPARE(l.pixels.at(3).groupIndex, 1);
-    QCOMPARE(l.pixels.at(3).torvoverseIndex, 0);
-    QCOMPARE(l.pixels.at(3).portAddress, 0x0001);
-    QCOMPARE(l.pixels.at(3).deviceKey, deviceKey(second));
+    const LayoutPixel &last = l.pixels.at(3);
+    QCOMPARE((QList<int>{last.groupIndex, last.torvoverseIndex, last.portAddress}),
+             (QList<int>{1, 0, 0x0001}));
+    QCOMPARE(last.deviceKey, deviceKey(second));
 }
 
 void TestPixelLayout::zRange()
@@ -288,8 +275,9 @@ void TestPixelLayout::overlap_data()
     PatchFixture b = a;
     b.scenePosX = 100;
     QTest::newRow("five on two") << QVector<PatchFixture>{a, b, a, b, a}
-                                 << QStringLiteral("5 fixtures overlap on 2 screen position(s) - only the topmost "
-                                                   "one is visible. Use the group filter to isolate a torvoverse.");
+                                 << QStringLiteral(
+                                        "5 fixtures overlap on 2 screen position(s) - only the topmost "
+                                        "one is visible. Use the group filter to isolate a torvoverse.");
 }
 
 void TestPixelLayout::overlap()
@@ -301,8 +289,7 @@ void TestPixelLayout::overlap()
 
 void TestPixelLayout::arcsAreRound()
 {
-    // Two half rings of 75 pixels each, rectangles around their cells at 3
-    // scene units per step, both centred on (500, 400).
+    // Two half rings of 75 pixels, rects round their cells at 3 scene units a step, centred on (500, 400).
     QVector<PatchFixture> halves;
     for (const double start : {0.0, 180.0}) {
         PatchFixture f;
@@ -325,21 +312,19 @@ void TestPixelLayout::arcsAreRound()
     const QPointF centre(500, 400);
     for (int i = 0; i < 150; ++i) {
         const LayoutPixel &p = l.pixels.at(i);
-        const QPointF d = p.centre - centre;
-        QVERIFY2(std::fabs(std::hypot(d.x(), d.y()) - 100) < 1e-6, qPrintable(QString::number(i)));
-        QVERIFY(std::fabs(p.bounds.width() - 3) < 1e-9 && std::fabs(p.bounds.height() - 3) < 1e-9);
-        // Counter-clockwise from 3 o'clock in 2.4 degree steps, the first half above the centre.
+        // Radius 100, counter-clockwise from 3 o'clock in 2.4 degree steps, the first half above the centre.
         const double angle = (i + 0.5) * 2.4 * M_PI / 180;
-        QVERIFY(fuzzyPoint(p.centre, centre + QPointF(100 * std::cos(angle), -100 * std::sin(angle))));
+        QVERIFY2(fuzzyPoint(p.centre, centre + QPointF(100 * std::cos(angle), -100 * std::sin(angle))),
+                 qPrintable(QString::number(i)));
+        QVERIFY(std::fabs(p.bounds.width() - 3) < 1e-9 && std::fabs(p.bounds.height() - 3) < 1e-9);
     }
     QVERIFY(l.warnings.isEmpty());
     // Start beyond the end: the end is taken a turn further.
     PatchFixture wrap = halves.at(0);
     wrap.arcStartAngle = 270;
     wrap.arcEndAngle = 90;
-    const QPointF first = buildPixelLayout(patchOf({wrap})).pixels.constFirst().centre;
-    const QPointF last = buildPixelLayout(patchOf({wrap})).pixels.constLast().centre;
-    QVERIFY(first.y() > last.y()); // from 6 o'clock via 3 o'clock up to 12 o'clock
+    const PixelLayout wrapped = buildPixelLayout(patchOf({wrap}));
+    QVERIFY(wrapped.pixels.constFirst().centre.y() > wrapped.pixels.constLast().centre.y()); // 6 via 3 to 12
 }
 
 void TestPixelLayout::arcSteps_data()
@@ -379,7 +364,7 @@ void TestPixelLayout::arcSteps()
     for (int i = 0; i < records; ++i)
         f.leds.append(record(i, 0));
     const QRectF b = gridCellBounds(f);
-    QVERIFY2(fuzzyPoint(b.topLeft(), cells.topLeft()) && fuzzyPoint(b.bottomRight(), cells.bottomRight()),
+    QVERIFY2(fuzzyRect(b, cells),
              qPrintable(QStringLiteral("%1 %2 %3 %4").arg(b.x()).arg(b.y()).arg(b.width()).arg(b.height())));
 }
 
@@ -393,7 +378,7 @@ void TestPixelLayout::freePositions()
     f.pixelSize = 4;
     f.leds = {record(0, 0, 2), record(0, 0, 5), record(0, 0, 9)};
     f.pixelPoints = {QPointF(10, 20), QPointF(30, 40)}; // shorter than leds: two pixels
-    f.pixelRotations = {45};                             // shorter than points: the second is not rotated
+    f.pixelRotations = {45};                            // shorter than points: the second is not rotated
     const PixelLayout l = buildPixelLayout(patchOf({f}));
     QCOMPARE(l.pixels.size(), 2);
     QCOMPARE(l.pixels.at(1).bounds, QRectF(28, 38, 4, 4));
@@ -410,14 +395,23 @@ void TestPixelLayout::badInput_data()
     QTest::addColumn<PatchData>("patch");
     QTest::addColumn<int>("drawn");
     const PatchFixture good = grid(2, 2, QRectF(0, 0, 20, 20), QPointF(0, 100));
-    auto withBad = [&](const PatchFixture &bad) { return patchOf({bad, good}); };
-    PatchFixture f = grid(2, 2, QRectF(0, 0, 20, 20));
+    const auto withBad = [&](const PatchFixture &bad) { return patchOf({bad, good}); };
+    const PatchFixture f = grid(2, 2, QRectF(0, 0, 20, 20));
+    // One change to f, beside the good fixture.
+    const auto changed = [&](const char *tag, int drawn, const std::function<void(PatchFixture &)> &change) {
+        PatchFixture b = f;
+        change(b);
+        QTest::newRow(tag) << withBad(b) << drawn;
+    };
 
     QTest::newRow("empty groups") << PatchData{} << 0;
     PatchData emptyGroup;
     emptyGroup.groups.resize(3);
     emptyGroup.groups[1].torvoverses.resize(2);
     QTest::newRow("empty torvoverses") << emptyGroup << 0;
+    PatchFixture hidden = f;
+    hidden.hasLayout = false;
+    QTest::newRow("no layout") << patchOf({hidden, hidden}) << 0;
     PatchFixture absurd = f;
     absurd.countX = absurd.countY = absurd.countZ = 65535;
     absurd.dimX = absurd.dimY = absurd.dimZ = 65535;
@@ -439,27 +433,16 @@ void TestPixelLayout::badInput_data()
         bad.rect = r;
         QTest::addRow("rect %g,%g,%g,%g", r.x(), r.y(), r.width(), r.height()) << withBad(bad) << 4;
     }
-    PatchFixture bad = f;
-    bad.rect = QRectF(0, 0, 1e308, 1e-308); // aspect 1 below 1e-6 height: slivers, but finite ones
-    QTest::newRow("rect sliver") << withBad(bad) << 8;
-    bad = f;
-    bad.scenePosX = kNaN;
-    QTest::newRow("NaN position") << withBad(bad) << 4;
-    bad = f;
-    bad.rotationAngle = -kInf;
-    QTest::newRow("infinite rotation") << withBad(bad) << 4;
-    bad = f;
-    bad.cornerWarp = QTransform(0, 0, 0, 0, 0, 0, 0, 0, 0);
-    QTest::newRow("zero warp") << withBad(bad) << 4;
-    bad.cornerWarp = QTransform(1, 1, 0, 1, 1, 0, 0, 0, 1);
-    QTest::newRow("warp onto a line") << withBad(bad) << 4;
-    bad.cornerWarp = QTransform(1, 0, -0.1, 0, 1, 0, 0, 0, 1); // horizon at x = 10
-    QTest::newRow("warp horizon") << withBad(bad) << 4;
-    bad.cornerWarp = QTransform(1, 0, 0, 0, 1, 0, 0, 0, kNaN);
-    QTest::newRow("NaN warp") << withBad(bad) << 4;
-    bad = f;
-    bad.resizeFactor = std::numeric_limits<qint32>::max();
-    QTest::newRow("huge resize") << withBad(bad) << 8;
+    // Aspect 1 below 1e-6 height: slivers, but finite ones.
+    changed("rect sliver", 8, [](auto &b) { b.rect = QRectF(0, 0, 1e308, 1e-308); });
+    changed("NaN position", 4, [](auto &b) { b.scenePosX = kNaN; });
+    changed("infinite rotation", 4, [](auto &b) { b.rotationAngle = -kInf; });
+    changed("zero warp", 4, [](auto &b) { b.cornerWarp = QTransform(0, 0, 0, 0, 0, 0, 0, 0, 0); });
+    changed("warp onto a line", 4, [](auto &b) { b.cornerWarp = QTransform(1, 1, 0, 1, 1, 0, 0, 0, 1); });
+    // Horizon at x = 10.
+    changed("warp horizon", 4, [](auto &b) { b.cornerWarp = QTransform(1, 0, -0.1, 0, 1, 0, 0, 0, 1); });
+    changed("NaN warp", 4, [](auto &b) { b.cornerWarp = QTransform(1, 0, 0, 0, 1, 0, 0, 0, kNaN); });
+    changed("huge resize", 8, [](auto &b) { b.resizeFactor = std::numeric_limits<qint32>::max(); });
     PatchFixture freeBad;
     freeBad.hasLayout = true;
     freeBad.freePositions = true;
@@ -482,6 +465,12 @@ void TestPixelLayout::badInput()
             QVERIFY(std::isfinite(c.x()) && std::isfinite(c.y()));
     }
     QVERIFY(std::isfinite(l.sceneRect.width()) && std::isfinite(l.sceneRect.height()));
+    if (drawn == 0) { // nothing placed leaves everything empty
+        QVERIFY(l.sceneRect.isEmpty());
+        QVERIFY(!l.zRange.seen);
+        QVERIFY(l.warnings.isEmpty());
+        QVERIFY(l.pixelsForPortAddress(0).isEmpty());
+    }
 }
 
 QTEST_GUILESS_MAIN(TestPixelLayout)

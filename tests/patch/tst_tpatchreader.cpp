@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace TPatch;
@@ -39,6 +38,11 @@ QJsonObject patchWith(QJsonArray groups, QJsonArray layouts = {})
 QJsonObject groupOf(QJsonArray torvoverses, QString name = QStringLiteral("G"))
 {
     return {{"groupName", name}, {"torvoverses", torvoverses}};
+}
+
+QJsonObject oneGroup(QJsonArray torvoverses, QJsonArray layouts = {})
+{
+    return patchWith(QJsonArray{groupOf(torvoverses)}, layouts);
 }
 
 // A one-group, one-torvoverse, one-fixture patch around the given fixture object, with a usable layout.
@@ -73,7 +77,6 @@ class TestTPatchReader : public QObject
 private slots:
     void fatalErrors_data();
     void fatalErrors();
-    void openFailures();
     void warnings_data();
     void warnings();
     void defaultsAndClamps();
@@ -86,19 +89,17 @@ private slots:
 void TestTPatchReader::fatalErrors_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("error");
-
+    QTest::addColumn<QString>("error"); // empty: some parser error, and no crash
     const QString notValid = QStringLiteral("\"show.tpatch\" is not a valid .tpatch file: ");
+    const QString noGroups = QStringLiteral("\"show.tpatch\" contains no groups.");
     QTest::newRow("empty file") << QByteArray() << notValid + QStringLiteral("illegal value");
     QTest::newRow("array root") << QByteArray("[1, 2]") << notValid + QStringLiteral("the root is not a JSON object");
     QTest::newRow("binary junk") << QByteArray("\x00\xff\x13\x37garbage", 12) << notValid + QStringLiteral("illegal value");
     QTest::newRow("truncated") << QByteArray("{\"corePatchData\": [") << notValid + QStringLiteral("unterminated array");
-    QTest::newRow("deep nesting") << QByteArray(100000, '[') << QString(); // some parser error, no crash
-    QTest::newRow("no corePatchData") << QByteArray("{}") << QStringLiteral("\"show.tpatch\" contains no groups.");
-    QTest::newRow("empty corePatchData") << QByteArray("{\"corePatchData\": []}")
-                                         << QStringLiteral("\"show.tpatch\" contains no groups.");
-    QTest::newRow("corePatchData wrong type") << QByteArray("{\"corePatchData\": {\"a\": 1}}")
-                                              << QStringLiteral("\"show.tpatch\" contains no groups.");
+    QTest::newRow("deep nesting") << QByteArray(100000, '[') << QString();
+    QTest::newRow("no corePatchData") << QByteArray("{}") << noGroups;
+    QTest::newRow("empty corePatchData") << QByteArray("{\"corePatchData\": []}") << noGroups;
+    QTest::newRow("corePatchData wrong type") << QByteArray("{\"corePatchData\": {\"a\": 1}}") << noGroups;
 }
 
 void TestTPatchReader::fatalErrors()
@@ -116,58 +117,43 @@ void TestTPatchReader::fatalErrors()
     QCOMPARE(r.patch.formatLabel, QStringLiteral("Torvane MOX patch (.tpatch)"));
 }
 
-void TestTPatchReader::openFailures()
-{
-    // A missing file is checked through the loader; a folder by that name fails alike.
-    QTemporaryDir dir;
-    QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("folder.tpatch")));
-    const PatchLoadResult r = readTPatch(dir.filePath(QStringLiteral("folder.tpatch")));
-    QVERIFY(!r.ok);
-    QVERIFY(r.error.untranslatedText().startsWith(QStringLiteral("Could not open \"folder.tpatch\": ")));
-}
-
 void TestTPatchReader::warnings_data()
 {
     QTest::addColumn<QJsonObject>("root");
     QTest::addColumn<QStringList>("expected");
-
     const QJsonObject fixture{{"leds", QJsonArray{QJsonObject{{"channels", QJsonArray{1, 2, 3}}}}}};
-    const QString truncation = QStringLiteral(
-        "Universe numbers above 15 are truncated to 4 bits on the wire (Art-Net PortAddress). Affected universes: %1");
+    const QString truncation = QStringLiteral("Universe numbers above 15 are truncated to 4 bits on the wire "
+                                              "(Art-Net PortAddress). Affected universes: %1");
     const QString shared = QStringLiteral(
-        "%1 port address(es) are used by more than one torvoverse (%2). Recorded playback can still tell them "
-        "apart by frame order, but a live capture at a single IP will only see one device's data.");
+        "%1 port address(es) are used by more than one torvoverse (%2). Recorded playback can still tell "
+        "them apart by frame order, but a live capture at a single IP will only see one device's data.");
     const QString layout = QStringLiteral("%1 fixture(s) have no usable scene layout and will not be drawn.");
 
-    QTest::newRow("clean") << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(1, QJsonArray{fixture})})},
-                                        QJsonArray{layoutEntry(0, 0, 0)})
-                           << QStringList();
+    QTest::newRow("clean") << oneGroup({torvoverse(1, {fixture})}, {layoutEntry(0, 0, 0)}) << QStringList();
     QTest::newRow("1 and 17 collide")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(1), torvoverse(17)})})
+        << oneGroup({torvoverse(1), torvoverse(17)})
         << QStringList{truncation.arg(QStringLiteral("17")), shared.arg(1).arg(QStringLiteral("0x0001 x2"))};
-    QTest::newRow("sorted as text")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(16, {}, 1), torvoverse(20, {}, 2), torvoverse(100, {}, 3),
-                                                   torvoverse(16, {}, 4)})})
-        << QStringList{truncation.arg(QStringLiteral("100, 16, 20"))};
+    QTest::newRow("sorted as text") << oneGroup({torvoverse(16, {}, 1), torvoverse(20, {}, 2),
+                                                 torvoverse(100, {}, 3), torvoverse(16, {}, 4)})
+                                    << QStringList{truncation.arg(QStringLiteral("100, 16, 20"))};
     QTest::newRow("shared across groups, entries sorted")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(5, {}, 0, 1), torvoverse(2)}),
-                                groupOf(QJsonArray{torvoverse(2), torvoverse(5, {}, 0, 1), torvoverse(5, {}, 0, 1)})})
+        << patchWith(QJsonArray{
+               groupOf(QJsonArray{torvoverse(5, {}, 0, 1), torvoverse(2)}),
+               groupOf(QJsonArray{torvoverse(2), torvoverse(5, {}, 0, 1), torvoverse(5, {}, 0, 1)})})
         << QStringList{shared.arg(2).arg(QStringLiteral("0x0002 x2, 0x0105 x3"))};
     QTest::newRow("no layout entry, all three in order")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(3, QJsonArray{fixture, fixture}), torvoverse(19)})},
-                     QJsonArray{layoutEntry(0, 0, 1)})
-        << QStringList{layout.arg(1), truncation.arg(QStringLiteral("19")), shared.arg(1).arg(QStringLiteral("0x0003 x2"))};
+        << oneGroup({torvoverse(3, {fixture, fixture}), torvoverse(19)}, {layoutEntry(0, 0, 1)})
+        << QStringList{layout.arg(1), truncation.arg(QStringLiteral("19")),
+                       shared.arg(1).arg(QStringLiteral("0x0003 x2"))};
     QTest::newRow("rect of three numbers")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(1, QJsonArray{fixture})})},
-                     QJsonArray{layoutEntry(0, 0, 0, QJsonArray{0, 0, 100})})
+        << oneGroup({torvoverse(1, {fixture})}, {layoutEntry(0, 0, 0, {0, 0, 100})})
         << QStringList{layout.arg(1)};
     QTest::newRow("zero and negative sizes")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(1, QJsonArray{fixture, fixture})})},
-                     QJsonArray{layoutEntry(0, 0, 0, QJsonArray{0, 0, 0, 10}), layoutEntry(0, 0, 1, QJsonArray{0, 0, 5, -1})})
+        << oneGroup({torvoverse(1, {fixture, fixture})},
+                    {layoutEntry(0, 0, 0, {0, 0, 0, 10}), layoutEntry(0, 0, 1, {0, 0, 5, -1})})
         << QStringList{layout.arg(2)};
     QTest::newRow("a later entry replaces an earlier one")
-        << patchWith(QJsonArray{groupOf(QJsonArray{torvoverse(1, QJsonArray{fixture})})},
-                     QJsonArray{layoutEntry(0, 0, 0), layoutEntry(0, 0, 0, QJsonArray{0, 0, 0, 0})})
+        << oneGroup({torvoverse(1, {fixture})}, {layoutEntry(0, 0, 0), layoutEntry(0, 0, 0, {0, 0, 0, 0})})
         << QStringList{layout.arg(1)};
 }
 
@@ -187,38 +173,31 @@ void TestTPatchReader::defaultsAndClamps()
                               {"countZ", 70000},   // stored in 16 bits
                               {"arcRadius", "x"},
                               {"shapeType", 1}};
-    const QJsonObject root = singleFixture(fixture, {{"targetIP", QJsonArray{10, 0, 0}}, {"universe", 65537}});
-    const PatchLoadResult r = parse(root);
+    const PatchLoadResult r =
+        parse(singleFixture(fixture, {{"targetIP", QJsonArray{10, 0, 0}}, {"universe", 65537}}));
     QVERIFY(r.ok);
-    QCOMPARE(r.patch.selectedChLimit, 512);
-    QCOMPARE(r.patch.device, 0);
+    QCOMPARE((QList<int>{r.patch.selectedChLimit, r.patch.device}), (QList<int>{512, 0}));
     QCOMPARE(r.patch.sourcePath, QStringLiteral("/shows/show.tpatch"));
     QVERIFY(r.patch.importedFrom.isEmpty());
     const PatchGroup &g = r.patch.groups.at(0);
     QVERIFY(g.groupId.isNull());
     QCOMPARE(g.groupColor, QColor(240, 130, 32));
-    const Torvoverse &t = g.torvoverses.at(0);
-    QCOMPARE(t.targetIP, (QVector<qint32>{255, 255, 255, 255}));
-    QCOMPARE(t.universe, quint16(1)); // 65537 in 16 bits
+    QCOMPARE(g.torvoverses.at(0).targetIP, (QVector<qint32>{255, 255, 255, 255}));
+    QCOMPARE(g.torvoverses.at(0).universe, quint16(1)); // 65537 in 16 bits
     const PatchFixture &f = firstFixture(r);
     QVERIFY(f.fixtureName.isEmpty());
     QVERIFY(f.isArc);
-    QCOMPARE(f.arcRadius, 50.0);
-    QCOMPARE(f.arcStartAngle, 0.0);
-    QCOMPARE(f.arcEndAngle, 180.0);
-    QCOMPARE(f.countX, quint16(1));
-    QCOMPARE(f.countY, quint16(1));
-    QCOMPARE(f.countZ, quint16(70000 & 0xFFFF));
-    QCOMPARE(f.resizeFactor, 1);
-    QCOMPARE(f.selectedZ, -1);
+    QCOMPARE((QList<double>{f.arcRadius, f.arcStartAngle, f.arcEndAngle}), (QList<double>{50, 0, 180}));
+    QCOMPARE((QList<int>{f.countX, f.countY, f.countZ, f.resizeFactor, f.selectedZ}),
+             (QList<int>{1, 1, 70000 & 0xFFFF, 1, -1}));
     QVERIFY(f.cornerWarp.isIdentity());
 
     // Colours and UUIDs in their usual text forms.
-    QJsonObject coloured = patchWith(QJsonArray{QJsonObject{{"groupName", "A"},
-                                                            {"groupId", "6f1c2a10-0d51-4c57-9a0e-1b9d8e3f0a01"},
-                                                            {"groupColor", "#80102030"}},
-                                                QJsonObject{{"groupColor", "steelblue"}, {"groupId", "nonsense"}}});
-    const PatchLoadResult c = parse(coloured);
+    const PatchLoadResult c =
+        parse(patchWith(QJsonArray{QJsonObject{{"groupName", "A"},
+                                               {"groupId", "6f1c2a10-0d51-4c57-9a0e-1b9d8e3f0a01"},
+                                               {"groupColor", "#80102030"}},
+                                   QJsonObject{{"groupColor", "steelblue"}, {"groupId", "nonsense"}}}));
     QVERIFY(c.ok);
     QCOMPARE(c.patch.groups.at(0).groupId, QUuid(QStringLiteral("{6f1c2a10-0d51-4c57-9a0e-1b9d8e3f0a01}")));
     QCOMPARE(c.patch.groups.at(0).groupColor, QColor(0x10, 0x20, 0x30, 0x80));
@@ -249,10 +228,7 @@ void TestTPatchReader::recordsAreTruncatedToTheirArrays()
     }
     QCOMPARE(f.leds.size(), 2);
     const LedRecord &led = f.leds.at(0);
-    QCOMPARE(led.posX, quint16(3));
-    QCOMPARE(led.posY, quint16(0xFFFF));
-    QCOMPARE(led.posZ, quint16(2));
-    QCOMPARE(led.address, quint16(509));
+    QCOMPARE((QList<int>{led.posX, led.posY, led.posZ, led.address}), (QList<int>{3, 0xFFFF, 2, 509}));
     QCOMPARE(led.roles, (std::array<quint8, 6>{1, 0, 3, 4, 5, 6})); // role 9 reads as none; 8 entries keep 6
     QCOMPARE(f.leds.at(1).roles, (std::array<quint8, 6>{}));
 }
@@ -263,8 +239,7 @@ void TestTPatchReader::layoutAttachment_data()
     QTest::addColumn<bool>("hasLayout");
     QTest::addColumn<int>("resizeFactor");
     QTest::addColumn<bool>("identityWarp");
-
-    QJsonObject full = layoutEntry(0, 0, 0, QJsonArray{5, 6, 70, 80});
+    QJsonObject full = layoutEntry(0, 0, 0, {5, 6, 70, 80});
     full.insert("scenePosX", 12.5);
     full.insert("scenePosY", -3);
     full.insert("rotationAngle", 90);
@@ -273,13 +248,12 @@ void TestTPatchReader::layoutAttachment_data()
     full.insert("selectedZ", 2);
     full.insert("cornerWarp", QJsonArray{1, 0, 0, 0, 1, 0, 10, 20, 1});
     QTest::newRow("full") << full << true << 3 << false;
-    QJsonObject zero = layoutEntry(0, 0, 0);
-    zero.insert("resizeFactor", 0);
-    QTest::newRow("resize 0") << zero << true << 1 << true;
-    QJsonObject negative = layoutEntry(0, 0, 0);
-    negative.insert("resizeFactor", -3);
-    negative.insert("cornerWarp", QJsonArray{2, 0, 0, 0, 2, 0, 0, 0}); // eight entries: identity
-    QTest::newRow("resize -3, short warp") << negative << true << 1 << true;
+    QJsonObject entry = layoutEntry(0, 0, 0);
+    entry.insert("resizeFactor", 0);
+    QTest::newRow("resize 0") << entry << true << 1 << true;
+    entry.insert("resizeFactor", -3);
+    entry.insert("cornerWarp", QJsonArray{2, 0, 0, 0, 2, 0, 0, 0}); // eight entries: identity
+    QTest::newRow("resize -3, short warp") << entry << true << 1 << true;
     QTest::newRow("other fixture's entry") << layoutEntry(0, 0, 1) << false << 1 << true;
     QTest::newRow("indices missing") << QJsonObject{{"rect", QJsonArray{0, 0, 10, 10}}} << false << 1 << true;
 }
@@ -300,14 +274,11 @@ void TestTPatchReader::layoutAttachment()
     QCOMPARE(f.cornerWarp.isIdentity(), identityWarp);
     if (QTest::currentDataTag() == QByteArrayLiteral("full")) {
         QCOMPARE(f.rect, QRectF(5, 6, 70, 80));
-        QCOMPARE(f.scenePosX, 12.5);
-        QCOMPARE(f.scenePosY, -3.0);
-        QCOMPARE(f.rotationAngle, 90.0);
-        QCOMPARE(f.dimX, 16);
-        QCOMPARE(f.dimY, 1);
-        QCOMPARE(f.selectedZ, 2);
-        QCOMPARE(f.cornerWarp.m31(), 10.0);
-        QCOMPARE(f.cornerWarp.m32(), 20.0);
+        // scenePosX, scenePosY, rotationAngle, and the warp's translation
+        QCOMPARE((QList<double>{f.scenePosX, f.scenePosY, f.rotationAngle, f.cornerWarp.m31(),
+                                f.cornerWarp.m32()}),
+                 (QList<double>{12.5, -3, 90, 10, 20}));
+        QCOMPARE((QList<int>{f.dimX, f.dimY, f.selectedZ}), (QList<int>{16, 1, 2}));
     }
 }
 

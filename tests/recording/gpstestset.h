@@ -6,6 +6,7 @@
 #include "cli/gpsrecordingmaker.h"
 #include "patch/frameorder.h"
 #include "patch/patchdata.h"
+#include "recording/gpssyncset.h"
 #include "testfiles.h"
 
 #include <QDir>
@@ -33,8 +34,7 @@ inline TPatch::Torvoverse torvoverse(int universe, int subNet = 0, bool drawable
     return t;
 }
 
-// Three groups: "Front" on universes 1 and 2, "Back_Stage Left" (an
-// underscore and a space) on 3, "Roof" on 4, 5 and 6.
+// "Front" on universes 1 and 2, "Back_Stage Left" (underscore and space) on 3, "Roof" on 4, 5 and 6.
 inline TPatch::PatchData patch(bool drawable = true)
 {
     TPatch::PatchData p;
@@ -80,6 +80,23 @@ inline QByteArray fileBytes(const TPatch::PatchData &p, int group, qint64 frames
 }
 
 using TestFiles::write;
+
+// Writes group g's file into dir as "<session>_<group name>.tpx"; its path.
+inline QString writeGroup(const QString &dir, const TPatch::PatchData &p, int group, const QByteArray &bytes,
+                          const QString &session = QStringLiteral("show"))
+{
+    return write(QDir(dir).filePath(QStringLiteral("%1_%2.tpx").arg(session, p.groups.at(group).groupName)),
+                 bytes);
+}
+
+// A fresh set of the patch's groups, loaded from these paths (without the patch when withPatch is false).
+inline const GpsVerification &load(GpsSyncSet &set, const TPatch::PatchData &p, const QStringList &paths,
+                                   bool withPatch = true)
+{
+    set.setGroups(p);
+    set.setPaths(paths);
+    return set.load(withPatch ? &p : nullptr);
+}
 
 // Offset of record r (counted over the whole file) in a file of uniform records.
 inline qsizetype recordOffset(qint64 record)

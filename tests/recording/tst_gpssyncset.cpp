@@ -13,20 +13,15 @@ class TestGpsSyncSet : public QObject
 
 private slots:
     void init();
-    void armsOnTheShortestFile();
-    void frameServesEveryGroupInOrder();
+    void framesInPatchOrderAndStampDifferences();
     void controllerUniverseFieldPlaysOnItsPortAddress();
-    void timestampDifferenceAtFrame();
     void autoFillKeepsUnmatchedPathsAndPathChangesUnload();
     void aSetOfOne();
 
 private:
-    QString writeGroup(int group, const QByteArray &bytes, const QString &session = QStringLiteral("show"))
+    QString writeGroup(int group, const QByteArray &bytes)
     {
-        return write(
-            QDir(m_dir->path())
-                .filePath(QStringLiteral("%1_%2.tpx").arg(session, m_patch.groups.at(group).groupName)),
-            bytes);
+        return GpsTest::writeGroup(m_dir->path(), m_patch, group, bytes);
     }
     QStringList writeAll()
     {
@@ -34,14 +29,6 @@ private:
         for (int g = 0; g < m_patch.groups.size(); ++g)
             paths.append(writeGroup(g, fileBytes(m_patch, g)));
         return paths;
-    }
-
-    // A fresh set of the patch's groups, loaded from these paths.
-    const GpsVerification &load(GpsSyncSet &set, const QStringList &paths)
-    {
-        set.setGroups(m_patch);
-        set.setPaths(paths);
-        return set.load(&m_patch);
     }
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -54,23 +41,16 @@ void TestGpsSyncSet::init()
     m_patch = GpsTest::patch();
 }
 
-void TestGpsSyncSet::armsOnTheShortestFile()
+void TestGpsSyncSet::framesInPatchOrderAndStampDifferences()
 {
     QStringList paths = writeAll();
-    paths[1] = writeGroup(1, fileBytes(m_patch, 1, kFrames - 3));
+    QByteArray roof = fileBytes(m_patch, 2);
+    for (int r = 0; r < 3; ++r) // Roof's frame 12 two stamps ahead
+        setStamp(&roof, 12 * 3 + r, quint16(gpsFrameStamp(12, 40) + 2));
+    paths[2] = writeGroup(2, roof);
     GpsSyncSet set;
-    QCOMPARE(load(set, paths).failures, 1); // the lengths differ, and the set is armed all the same
-    QVERIFY(set.isLoaded());
-    QCOMPARE(set.frameCount(), kFrames - 3);
-    QCOMPARE(set.frame(kFrames - 4).size(), 6);
-    QVERIFY(set.frame(kFrames - 3).isEmpty());
-    QVERIFY(set.frame(-1).isEmpty());
-}
-
-void TestGpsSyncSet::frameServesEveryGroupInOrder()
-{
-    GpsSyncSet set;
-    load(set, writeAll());
+    QCOMPARE(set.timestampDifferenceAt(0), 0); // nothing loaded
+    load(set, m_patch, paths);
     const QVector<GpsFrameRecord> frame = set.frame(7);
     QVector<quint16> universes;
     for (const GpsFrameRecord &r : frame)
@@ -81,6 +61,9 @@ void TestGpsSyncSet::frameServesEveryGroupInOrder()
     QCOMPARE(int(frame.at(4).data.at(2)), 7 + 1 + 2);
     QCOMPARE(set.universes(), QVector<quint16>({1, 2, 3, 4, 5, 6}));
     QCOMPARE(set.groupNames(), QStringList({"Front", "Back_Stage Left", "Roof"}));
+    QCOMPARE(set.timestampDifferenceAt(11), 0);
+    QCOMPARE(set.timestampDifferenceAt(12), 2);
+    QCOMPARE(set.timestampDifferenceAt(13), 0);
 }
 
 void TestGpsSyncSet::controllerUniverseFieldPlaysOnItsPortAddress()
@@ -91,24 +74,9 @@ void TestGpsSyncSet::controllerUniverseFieldPlaysOnItsPortAddress()
     s.universes[1] = 0x202; // what the controller writes into the GPS record
     paths[0] = writeGroup(0, gpsRecordingBytes(s, pattern()));
     GpsSyncSet set;
-    QCOMPARE(load(set, paths).failures, 0);
+    QCOMPARE(load(set, m_patch, paths).failures, 0);
     QCOMPARE(set.frame(0).at(1).portAddress, quint16(0x22));
     QCOMPARE(set.universes(), QVector<quint16>({1, 3, 4, 5, 6, 0x22}));
-}
-
-void TestGpsSyncSet::timestampDifferenceAtFrame()
-{
-    QStringList paths = writeAll();
-    QByteArray roof = fileBytes(m_patch, 2);
-    for (int r = 0; r < 3; ++r)
-        setStamp(&roof, 12 * 3 + r, quint16(gpsFrameStamp(12, 40) + 2));
-    paths[2] = writeGroup(2, roof);
-    GpsSyncSet set;
-    QCOMPARE(set.timestampDifferenceAt(0), 0); // nothing loaded
-    load(set, paths);
-    QCOMPARE(set.timestampDifferenceAt(11), 0);
-    QCOMPARE(set.timestampDifferenceAt(12), 2);
-    QCOMPARE(set.timestampDifferenceAt(13), 0);
 }
 
 void TestGpsSyncSet::autoFillKeepsUnmatchedPathsAndPathChangesUnload()
@@ -139,7 +107,7 @@ void TestGpsSyncSet::aSetOfOne()
 {
     m_patch.groups.remove(1, 2);
     GpsSyncSet set;
-    const GpsVerification &v = load(set, {writeGroup(0, fileBytes(m_patch, 0))});
+    const GpsVerification &v = load(set, m_patch, {writeGroup(0, fileBytes(m_patch, 0))});
     QCOMPARE(v.failures + v.warnings, 0);
     QCOMPARE(v.summary.untranslatedText(),
              QStringLiteral("1 group(s) - 20 frames - structure and sync verified"));

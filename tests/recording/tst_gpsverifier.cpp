@@ -13,28 +13,10 @@ namespace {
 
 enum Fault
 {
-    Clean,
-    NoPatch,
-    MissingFile,
-    SamePathTwice,
-    NotOnDisk,
-    Garbage,
-    Folder,
-    NoGpsBlock,
-    ExtraUniverse,
-    NoDrawable,
-    SwappedOrder,
-    ControllerUniverseField,
-    WrongFrameByteSize,
-    WrongUniverseByteLength,
-    AbsurdBlock,
-    TrailingRecord,
-    ThreeFramesShort,
-    StaleHeaderCount,
-    DriftBetweenFiles,
-    OneApartInsideFrame,
-    UncoveredUniverse,
-    SharedUniverse,
+    Clean, NoPatch, MissingFile, SamePathTwice, NotOnDisk, Garbage, Folder, NoGpsBlock, ExtraUniverse,
+    NoDrawable, SwappedOrder, ControllerUniverseField, WrongFrameByteSize, WrongUniverseByteLength,
+    AbsurdBlock, TrailingRecord, ThreeFramesShort, StaleHeaderCount, DriftBetweenFiles, OneApartInsideFrame,
+    UncoveredUniverse, SharedUniverse
 };
 
 // Builds the set for a fault: the clean set with one thing wrong.
@@ -49,8 +31,8 @@ Built build(Fault fault, const QString &dir)
     Built b;
     if (fault == NoDrawable)
         b.patch = GpsTest::patch(false);
-    if (fault ==
-        ControllerUniverseField) // Roof's first torvoverse: Sub-Net 1, universe 4 → Port-Address 0x14
+    // Roof's first torvoverse: Sub-Net 1, universe 4 → Port-Address 0x14.
+    if (fault == ControllerUniverseField)
         b.patch.groups[2].torvoverses[0].subNet = 1;
     QVector<QByteArray> files;
     for (int g = 0; g < b.patch.groups.size(); ++g) {
@@ -72,62 +54,41 @@ Built build(Fault fault, const QString &dir)
         files.append(gpsRecordingBytes(s, pattern()));
     }
     QByteArray &roof = files[2];
-    switch (fault) {
-    case NoGpsBlock:
+    if (fault == NoGpsBlock)
         roof.remove(0, 143);
-        break;
-    case WrongFrameByteSize:
+    if (fault == WrongFrameByteSize)
         qToLittleEndian<quint64>(3 * kRecordSize + 1, roof.data());
-        break;
-    case WrongUniverseByteLength:
-        qToLittleEndian<quint16>(kRecordSize + 2, roof.data() + 13 + 2); // entry 1; frameByteSize stays right
-        break;
-    case AbsurdBlock: // every field at its largest; the reader falls back to the detected period
+    if (fault == WrongUniverseByteLength) // entry 1; frameByteSize stays right
+        qToLittleEndian<quint16>(kRecordSize + 2, roof.data() + 13 + 2);
+    if (fault == AbsurdBlock) { // every field at its largest; the reader falls back to the detected period
         qToLittleEndian<quint64>(~quint64(0), roof.data());
         qToLittleEndian<quint32>(~quint32(0), roof.data() + 8);
         roof[12] = char(0xFF);
         roof.replace(13, 128, QByteArray(128, char(0xFF)));
-        break;
-    case TrailingRecord:
-        roof += roof.mid(recordOffset(0), kRecordSize);
-        break;
-    case StaleHeaderCount:
-        qToLittleEndian<quint32>(0, roof.data() + 8);
-        break;
-    case DriftBetweenFiles: // from frame 10 on, Roof is two stamps ahead
-        for (int f = 10; f < kFrames; ++f)
-            for (int r = 0; r < 3; ++r)
-                setStamp(&roof, f * 3 + r, quint16(gpsFrameStamp(f, 40) + 2));
-        break;
-    case OneApartInsideFrame: // every file agrees on frame 5's first record; Roof's last is one later
-        setStamp(&roof, 5 * 3 + 2, quint16(gpsFrameStamp(5, 40) + 1));
-        break;
-    default:
-        break;
     }
+    if (fault == TrailingRecord)
+        roof += roof.mid(recordOffset(0), kRecordSize);
+    if (fault == StaleHeaderCount)
+        qToLittleEndian<quint32>(0, roof.data() + 8);
+    // Drift: from frame 10 on, Roof is two stamps ahead.
+    for (int f = 10; fault == DriftBetweenFiles && f < kFrames; ++f)
+        for (int r = 0; r < 3; ++r)
+            setStamp(&roof, f * 3 + r, quint16(gpsFrameStamp(f, 40) + 2));
+    if (fault == OneApartInsideFrame) // every file agrees on frame 5's first record; Roof's last is one later
+        setStamp(&roof, 5 * 3 + 2, quint16(gpsFrameStamp(5, 40) + 1));
     for (int g = 0; g < files.size(); ++g)
-        b.paths.append(
-            write(QDir(dir).filePath(QStringLiteral("show_%1.tpx").arg(b.patch.groups.at(g).groupName)),
-                  files.at(g)));
-    switch (fault) {
-    case MissingFile:
+        b.paths.append(writeGroup(dir, b.patch, g, files.at(g)));
+    if (fault == MissingFile)
         b.paths[2].clear();
-        break;
-    case SamePathTwice:
+    if (fault == SamePathTwice)
         b.paths[1] = b.paths[0];
-        break;
-    case NotOnDisk:
+    if (fault == NotOnDisk)
         b.paths[2] = QDir(dir).filePath(QStringLiteral("gone.tpx"));
-        break;
-    case Garbage:
+    if (fault == Garbage)
         write(b.paths[2], QByteArray("PK\x03\x04 this is a zip file, not a recording"));
-        break;
-    case Folder:
+    if (fault == Folder) {
         QDir(dir).mkdir(QStringLiteral("folder.tpx"));
         b.paths[2] = QDir(dir).filePath(QStringLiteral("folder.tpx"));
-        break;
-    default:
-        break;
     }
     return b;
 }
@@ -170,9 +131,7 @@ void TestGpsVerifier::cleanSetPassesEveryCheck()
 {
     const Built b = build(Clean, m_dir.path());
     GpsSyncSet set;
-    set.setGroups(b.patch);
-    set.setPaths(b.paths);
-    const GpsVerification &v = set.load(&b.patch);
+    const GpsVerification &v = load(set, b.patch, b.paths);
     QStringList titles;
     for (const GpsCheck &c : v.checks) {
         QCOMPARE(c.verdict, GpsCheck::Pass);
@@ -209,8 +168,9 @@ void TestGpsVerifier::findings_data()
     QTest::addColumn<QString>("summary");
 
     const auto armed = [](int failures, int warnings, int frames = 20) {
-        return QStringLiteral("3 group(s) - %1 frames - %2 failure(s), %3 warning(s); playback is enabled so you "
-                              "can see them")
+        return QStringLiteral(
+                   "3 group(s) - %1 frames - %2 failure(s), %3 warning(s); playback is enabled so you "
+                   "can see them")
             .arg(frames)
             .arg(failures)
             .arg(warnings);
@@ -219,19 +179,20 @@ void TestGpsVerifier::findings_data()
     const QString armedWithWarning = armed(0, 1);
     const QString noFrame = QStringLiteral("The set holds no complete frame.");
 
-    QTest::newRow("no patch")
-        << int(NoPatch) << "No patch loaded" << 2
-        << "A GPS-Sync set is defined by the patch: one recording per group. Load a .tpatch first."
-        << "No patch loaded.";
+    QTest::newRow("no patch") << int(NoPatch) << "No patch loaded" << 2
+                              << "A GPS-Sync set is defined by the patch: one recording per group. Load a "
+                                 ".tpatch first."
+                              << "No patch loaded.";
     QTest::newRow("a group without a file")
         << int(MissingFile) << "1 of 3 group(s) have no recording" << 2
         << "A GPS-Sync show is only complete when every group has its own file. Missing: Roof"
         << "1 recording(s) still missing.";
-    QTest::newRow("same path twice")
-        << int(SamePathTwice) << "The same file is assigned to more than one group" << 2
-        << "show_Front.tpx (Front, Back_Stage Left). Each group has its own recording"
-        // Front's file also fails Back's universe count and order, and shares its universes.
-        << armed(3, 2);
+    // Front's file also fails Back's universe count and order, and shares its universes.
+    QTest::newRow("same path twice") << int(SamePathTwice)
+                                     << "The same file is assigned to more than one group" << 2
+                                     << "show_Front.tpx (Front, Back_Stage Left). Each group has its own "
+                                        "recording"
+                                     << armed(3, 2);
     QTest::newRow("file not on disk")
         << int(NotOnDisk) << "gone.tpx: file cannot be read" << 2 << "Could not open \"gone.tpx\"" << noFrame;
     QTest::newRow("another format") << int(Garbage) << "show_Roof.tpx: file cannot be read" << 2
@@ -260,8 +221,7 @@ void TestGpsVerifier::findings_data()
     QTest::newRow("frameByteSize off by one")
         << int(WrongFrameByteSize) << "Frame byte size in the header is wrong" << 2
         << "show_Roof.tpx: header says 97 bytes per frame, the file measures 96; show_Roof.tpx: "
-           "universeByteLength "
-           "sums to 96 but frameByteSize says 97. A GPS device seeks"
+           "universeByteLength sums to 96 but frameByteSize says 97. A GPS device seeks"
         << armedWithFailure;
     QTest::newRow("one universeByteLength entry")
         << int(WrongUniverseByteLength) << "Frame byte size in the header is wrong" << 2
@@ -270,8 +230,7 @@ void TestGpsVerifier::findings_data()
     QTest::newRow("absurd block")
         << int(AbsurdBlock) << "Frame byte size in the header is wrong" << 2
         << "show_Roof.tpx: header says 18446744073709551615 bytes per frame, the file measures 96; "
-           "show_Roof.tpx: "
-           "universeByteLength sums to 4194240 but frameByteSize says 18446744073709551615."
+           "show_Roof.tpx: universeByteLength sums to 4194240 but frameByteSize says 18446744073709551615."
         << armed(1, 1);
     QTest::newRow("a trailing record")
         << int(TrailingRecord) << "Some files carry bytes that do not form a whole frame" << 1
@@ -280,9 +239,8 @@ void TestGpsVerifier::findings_data()
     QTest::newRow("three frames short")
         << int(ThreeFramesShort) << "Recordings differ in length by 3 frame(s)" << 2
         << "show_Front.tpx: 20; show_Back_Stage Left.tpx: 17; show_Roof.tpx: 20. GPS devices stay locked by "
-           "frame "
-           "index, so the show falls apart as soon as the shortest file ends. Playback here stops at frame "
-           "17."
+           "frame index, so the show falls apart as soon as the shortest file ends. Playback here stops at "
+           "frame 17."
         << armed(1, 0, 17);
     QTest::newRow("stale header count")
         << int(StaleHeaderCount) << "Frame count in the header is out of date" << 1
@@ -290,19 +248,16 @@ void TestGpsVerifier::findings_data()
     QTest::newRow("drift between files")
         << int(DriftBetweenFiles) << "Timestamps drift by up to 2 s between files" << 2
         << "First seen at frame 10. MOX stamps every group" << armedWithFailure;
-    // Equal across files but one apart inside a frame of one file: the spread
-    // across files includes that file's own two stamps, so it is a drift too.
+    // One apart inside a frame of one file: the spread across files includes that file's own two stamps.
     QTest::newRow("one apart inside a frame")
         << int(OneApartInsideFrame) << "Timestamps drift by up to 1 s between files" << 2
         << "First seen at frame 5." << armedWithFailure;
     QTest::newRow("a universe not covered")
         << int(UncoveredUniverse) << "The set carries 5 universe(s); the patch has 6" << 1
-        << "Pixels with no record behind them stay dark for the whole run."
-        << armed(1, 1);
+        << "Pixels with no record behind them stay dark for the whole run." << armed(1, 1);
     QTest::newRow("a shared universe")
         << int(SharedUniverse) << "Two or more groups share a universe" << 1
-        << "Universe(s) 0x0001. Two files write the same pixels and the last one drawn wins."
-        << armed(1, 2);
+        << "Universe(s) 0x0001. Two files write the same pixels and the last one drawn wins." << armed(1, 2);
 }
 
 void TestGpsVerifier::findings()
@@ -316,10 +271,7 @@ void TestGpsVerifier::findings()
     QTemporaryDir dir;
     const Built b = build(Fault(fault), dir.path());
     GpsSyncSet set;
-    set.setGroups(b.patch);
-    set.setPaths(b.paths);
-    const GpsVerification &v = set.load(fault == NoPatch ? nullptr : &b.patch);
-
+    const GpsVerification &v = load(set, b.patch, b.paths, fault != NoPatch);
     const GpsCheck *c = findCheck(v, title);
     QVERIFY2(c, qPrintable(report(v)));
     QCOMPARE(int(c->verdict), verdict);
@@ -331,8 +283,15 @@ void TestGpsVerifier::findings()
         QCOMPARE(v.checks.size(), 1);
         QVERIFY(!set.isLoaded() && set.frame(0).isEmpty());
     }
-    if (fault == SamePathTwice)       // both groups still load
+    if (fault == SamePathTwice) // both groups still load
         QVERIFY(set.member(0).isReadable() && set.member(1).isReadable());
+    if (fault == ThreeFramesShort) { // armed all the same, on the shortest file
+        QCOMPARE(v.failures, 1);
+        QCOMPARE(set.frameCount(), kFrames - 3);
+        QCOMPARE(set.frame(kFrames - 4).size(), 6);
+        QVERIFY(set.frame(kFrames - 3).isEmpty());
+        QVERIFY(set.frame(-1).isEmpty());
+    }
     if (fault == NotOnDisk || fault == Garbage || fault == Folder) {
         // One bad member never stops the checks of the others.
         QCOMPARE(v.unreadableSummary.untranslatedText(), QStringLiteral("1 of 3 file(s) could not be read."));
@@ -361,9 +320,8 @@ void TestGpsVerifier::damagedFilesNeverCrash()
 {
     QTemporaryDir dir;
     const Built clean = build(Clean, dir.path());
-    QFile original(clean.paths.at(2));
-    QVERIFY(original.open(QIODevice::ReadOnly));
-    const QByteArray roof = original.readAll();
+    const QByteArray roof = TestFiles::read(clean.paths.at(2));
+    QVERIFY(!roof.isEmpty());
     QRandomGenerator random(7);
     for (int round = 0; round < 300; ++round) {
         QByteArray bytes = roof;
@@ -373,9 +331,7 @@ void TestGpsVerifier::damagedFilesNeverCrash()
             bytes.truncate(random.bounded(int(bytes.size())));
         QVERIFY(!write(clean.paths.at(2), bytes).isEmpty());
         GpsSyncSet set;
-        set.setGroups(clean.patch);
-        set.setPaths(clean.paths);
-        const GpsVerification &v = set.load(&clean.patch);
+        const GpsVerification &v = load(set, clean.patch, clean.paths);
         QVERIFY(!v.checks.isEmpty() && !v.summary.isEmpty());
         for (qint64 f = 0; f < set.frameCount(); ++f)
             for (const GpsFrameRecord &r : set.frame(f))

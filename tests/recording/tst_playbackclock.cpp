@@ -59,8 +59,7 @@ class TestPlaybackClock : public QObject
             &clock, &PlaybackClock::performanceWarning, &context,
             [&](double fps) { run.warnings.append(fps); }, Qt::DirectConnection);
         clock.play();
-        const bool ended = clock.wait(QDeadlineTimer(60'000));
-        if (!ended) {
+        if (!clock.wait(QDeadlineTimer(60'000))) {
             clock.stop();
             clock.wait();
         }
@@ -96,7 +95,6 @@ private slots:
         QTest::newRow("0.05 clamps") << 0.05 << 0.1 << qint64(10'000'000'000);
         QTest::newRow("5000 clamps") << 5000.0 << 1000.0 << qint64(1'000'000);
     }
-
     void rates()
     {
         QFETCH(double, fps);
@@ -111,91 +109,76 @@ private slots:
 
     void fpsComparison()
     {
-        QVERIFY(!PlaybackClock::fpsDiffers(40.0, 40.0));
-        QVERIFY(!PlaybackClock::fpsDiffers(40.0, 40.0 + 1e-12));
+        QVERIFY(!PlaybackClock::fpsDiffers(40.0, 40.0) && !PlaybackClock::fpsDiffers(40.0, 40.0 + 1e-12));
         QVERIFY(PlaybackClock::fpsDiffers(40.0, 40.001));
     }
 
-    void tenFramesThenFinished()
+    // One run from start to end: the ticks seen and the frame the clock ends on.
+    void runs_data()
     {
+        QTest::addColumn<qint64>("frames");
+        QTest::addColumn<qint64>("seek");
+        QTest::addColumn<qint64>("seekAt");    // the tick after which to seek; -1: before play
+        QTest::addColumn<bool>("acknowledge"); // false: the consumer never answers
+        QTest::addColumn<int>("loopStopAt");   // loop, and stop at this tick; 0: no loop
+        QTest::addColumn<QVector<qint64>>("ticks");
+        QTest::addColumn<qint64>("endFrame");
+        const auto row = [](const char *name, qint64 frames, qint64 seek, qint64 seekAt, bool acknowledge,
+                            int loopStopAt, const QVector<qint64> &ticks, qint64 endFrame) {
+            QTest::newRow(name) << frames << seek << seekAt << acknowledge << loopStopAt << ticks << endFrame;
+        };
+        row("ten frames", 10, 0, -1, true, 0, range(0, 9), 9);
+        row("loops", 10, 0, -1, true, 25, range(0, 9) + range(0, 9) + range(0, 4), 5);
+        row("seek beyond the end", 10, 100, -1, true, 0, {9}, 9);
+        row("seek negative", 10, -5, -1, true, 0, range(0, 9), 9);
+        row("seek inside", 10, 7, -1, true, 0, {7, 8, 9}, 9);
+        row("seek while playing", 10, 7, 3, true, 0, {0, 1, 2, 3, 7, 8, 9}, 9);
+        row("back pressure drops frames", 10, 0, -1, false, 0, {0}, 9);
+        row("empty recording", 0, 0, -1, false, 0, {}, 0);
+    }
+    void runs()
+    {
+        QFETCH(qint64, frames);
+        QFETCH(qint64, seek);
+        QFETCH(qint64, seekAt);
+        QFETCH(bool, acknowledge);
+        QFETCH(int, loopStopAt);
+        QFETCH(QVector<qint64>, ticks);
+        QFETCH(qint64, endFrame);
         FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 10);
+        auto clock = makeClock(&time, 40, frames);
+        clock->setLoop(loopStopAt > 0);
+        if (seek != 0 && seekAt < 0)
+            clock->seek(seek);
         const qint64 start = time->nowNs();
-        const Run run = play(*clock, time, [&](qint64, int) { clock->acknowledge(); });
-        QCOMPARE(run.frames, range(0, 9));
-        QCOMPARE(run.finished, 1);
-        QCOMPARE(clock->currentFrame(), 9);
-        QVERIFY(!clock->isPlaying());
-        // Each tick lands on its deadline, counted from the start, never before
-        // it and no later than one spin step after it.
-        for (int k = 0; k < run.times.size(); ++k) {
-            const qint64 late = run.times.at(k) - (start + (k + 1) * 25'000'000);
-            QVERIFY2(late >= 0 && late < FakeTime::kYieldNs, qPrintable(QString::number(late)));
-        }
-    }
-
-    void loops()
-    {
-        FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 10);
-        clock->setLoop(true);
-        const Run run = play(*clock, time, [&](qint64, int count) {
-            clock->acknowledge();
-            if (count == 25)
-                clock->stop();
-        });
-        QCOMPARE(run.frames, range(0, 9) + range(0, 9) + range(0, 4));
-        QCOMPARE(run.finished, 1);
-    }
-
-    void seekClamps_data()
-    {
-        QTest::addColumn<qint64>("target");
-        QTest::addColumn<QVector<qint64>>("frames");
-        QTest::newRow("beyond the end") << qint64(100) << QVector<qint64>{9};
-        QTest::newRow("negative") << qint64(-5) << range(0, 9);
-        QTest::newRow("inside") << qint64(7) << QVector<qint64>{7, 8, 9};
-    }
-
-    void seekClamps()
-    {
-        QFETCH(qint64, target);
-        QFETCH(QVector<qint64>, frames);
-        FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 10);
-        clock->seek(target);
-        const Run run = play(*clock, time, [&](qint64, int) { clock->acknowledge(); });
-        QCOMPARE(run.frames, frames);
-    }
-
-    void seekWhilePlaying()
-    {
-        FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 10);
         qint64 seekTime = 0;
-        const Run run = play(*clock, time, [&](qint64 frame, int) {
-            clock->acknowledge();
-            if (frame == 3) {
-                clock->seek(7);
+        const Run run = play(*clock, time, [&](qint64 frame, int count) {
+            if (acknowledge)
+                clock->acknowledge();
+            if (count == loopStopAt)
+                clock->stop();
+            if (frame == seekAt) {
+                clock->seek(seek);
                 seekTime = time->nowNs();
             }
         });
-        QCOMPARE(run.frames, (QVector<qint64>{0, 1, 2, 3, 7, 8, 9}));
-        // The seek re-bases: frame 7 comes one period after it was applied.
-        const qint64 late = run.times.at(4) - (seekTime + 25'000'000);
-        QVERIFY2(late >= 0 && late < FakeTime::kYieldNs, qPrintable(QString::number(late)));
-    }
-
-    void backPressureDropsFrames()
-    {
-        FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 10);
-        const qint64 start = time->nowNs();
-        const Run run = play(*clock, time, [](qint64, int) {}); // the consumer never answers
-        QCOMPARE(run.frames, QVector<qint64>{0});
+        QCOMPARE(run.frames, ticks);
         QCOMPARE(run.finished, 1);
-        QCOMPARE(clock->currentFrame(), 9);
-        QVERIFY(time->nowNs() >= start + 10 * 25'000'000); // time went on for all ten frames
+        QCOMPARE(clock->currentFrame(), endFrame);
+        QVERIFY(!clock->isPlaying());
+        // Each tick lands on its deadline, counted from the start, never before it and no later than one
+        // spin step after it; a seek re-bases, so the next tick comes one period after it was applied.
+        const auto onTime = [](qint64 at, qint64 deadline) {
+            QVERIFY2(at - deadline >= 0 && at - deadline < FakeTime::kYieldNs,
+                     qPrintable(QString::number(at - deadline)));
+        };
+        if (qstrcmp(QTest::currentDataTag(), "ten frames") == 0)
+            for (int k = 0; k < run.times.size(); ++k)
+                onTime(run.times.at(k), start + (k + 1) * 25'000'000);
+        if (seekAt >= 0)
+            onTime(run.times.at(seekAt + 1), seekTime + 25'000'000);
+        if (!acknowledge && frames > 0) // time went on for all ten frames
+            QVERIFY(time->nowNs() >= start + 10 * 25'000'000);
     }
 
     // A consumer that takes 1.5 periods per frame runs at two-thirds of the rate
@@ -209,7 +192,6 @@ private slots:
         QTest::newRow("slow consumer") << qint64(15'000'000) << 1 << 60.0 << 70.0;
         QTest::newRow("keeping up") << qint64(0) << 0 << 98.5 << 101.5;
     }
-
     void performanceWarning()
     {
         QFETCH(qint64, consumerNs);
@@ -247,15 +229,6 @@ private slots:
         QVERIFY(qAbs(run.times.at(4) - run.times.at(3) - 100'000'000) < FakeTime::kYieldNs);
         for (int k = 5; k < run.times.size(); ++k)
             QVERIFY(qAbs(run.times.at(k) - run.times.at(k - 1) - 50'000'000) < FakeTime::kYieldNs);
-    }
-
-    void emptyRecordingFinishesAtOnce()
-    {
-        FakeTime *time = nullptr;
-        auto clock = makeClock(&time, 40, 0);
-        const Run run = play(*clock, time, [](qint64, int) {});
-        QVERIFY(run.frames.isEmpty());
-        QCOMPARE(run.finished, 1);
     }
 
     void realClockStopsPromptly()

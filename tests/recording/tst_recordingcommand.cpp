@@ -7,51 +7,39 @@
 
 // talu-cli recording and generate demo-recording, run as a process the way
 // scripts on show machines run them.
+using TestCli::example;
+using TestCli::run;
+
 class TestRecordingCommand : public QObject
 {
     Q_OBJECT
 
     QTemporaryDir m_dir;
 
-    static int run(const QStringList &args, QByteArray *out = nullptr)
-    {
-        const TestCli::Run r = TestCli::run(args);
-        if (out)
-            *out = r.out;
-        return r.exitCode;
-    }
-
-    static QString example(const char *name) { return TestCli::example(QLatin1String(name)); }
-
 private slots:
     void demoRecordingMatchesDemoPatch()
     {
         const QString out = m_dir.filePath(QStringLiteral("demo.tpx"));
-        QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("demo-recording"), out}), 0);
+        QCOMPARE(run({"generate", "demo-recording", out}).exitCode, 0);
         for (const QString &file : {out, example("demo.tpx")}) {
-            QByteArray json;
-            QCOMPARE(run({QStringLiteral("recording"), file, QStringLiteral("--patch"),
-                          example("demo.tpatch"), QStringLiteral("--json")},
-                         &json),
-                     0);
-            const QJsonObject o = QJsonDocument::fromJson(json).object();
-            QCOMPARE(o.value(QStringLiteral("ok")).toBool(), true);
-            QCOMPARE(o.value(QStringLiteral("error")).type(), QJsonValue::Null);
-            QCOMPARE(o.value(QStringLiteral("format")).toString(), QStringLiteral("Art-Net"));
-            QCOMPARE(o.value(QStringLiteral("recordsPerFrame")).toInt(), 15);
-            QCOMPARE(o.value(QStringLiteral("frames")).toInt(), 120);
-            QCOMPARE(o.value(QStringLiteral("records")).toInt(), 1800);
-            QCOMPARE(o.value(QStringLiteral("detectedPeriod")).toInt(), 15);
-            QCOMPARE(o.value(QStringLiteral("matchesPatch")).toBool(), true);
-            QCOMPARE(o.value(QStringLiteral("gpsSync")).toBool(), false);
-            QCOMPARE(o.value(QStringLiteral("firstRecordOffset")).toInt(), 0);
+            const TestCli::Run r = run({"recording", file, "--patch", example("demo.tpatch"), "--json"});
+            QCOMPARE(r.exitCode, 0);
+            const QJsonObject o = r.json();
+            const QByteArray expectedJson = R"({"ok": true, "error": null, "format": "Art-Net",
+                "recordsPerFrame": 15, "frames": 120, "records": 1800, "detectedPeriod": 15,
+                "matchesPatch": true, "gpsSync": false, "firstRecordOffset": 0})";
+            const QJsonObject expected = QJsonDocument::fromJson(expectedJson).object();
+            QCOMPARE(expected.size(), 10);
+            for (auto it = expected.begin(); it != expected.end(); ++it)
+                QVERIFY2(o.value(it.key()) == it.value(),
+                         qPrintable(it.key() + QStringLiteral(": ") + QString::fromUtf8(r.out)));
+            QCOMPARE(o.value(QStringLiteral("parsedBytes")).toInteger(), QFileInfo(file).size());
             QCOMPARE(o.value(QStringLiteral("universes")).toArray().size(), 15);
             QCOMPARE(o.value(QStringLiteral("warnings")).toArray().size(), 0);
-            QCOMPARE(o.value(QStringLiteral("parsedBytes")).toInteger(), QFileInfo(file).size());
         }
         // Generating again overwrites rather than appends, and gives the bundled file: a stale
         // examples/demo.tpx (the demo patch changed) fails here.
-        QCOMPARE(run({QStringLiteral("generate"), QStringLiteral("demo-recording"), out}), 0);
+        QCOMPARE(run({"generate", "demo-recording", out}).exitCode, 0);
         QFile generated(out), bundled(example("demo.tpx"));
         QVERIFY(generated.open(QIODevice::ReadOnly) && bundled.open(QIODevice::ReadOnly));
         QVERIFY2(generated.readAll() == bundled.readAll(),
@@ -65,8 +53,7 @@ private slots:
         // Facade 1 (Port-Address 0) changes colour from frame to frame.
         QVERIFY(rec.dataOf(rec.recordAt(0, 0)) != rec.dataOf(rec.recordAt(30, 0)));
         // The ball curtain (Port-Address 11, slot 11): each winch's 16-bit position moves.
-        const RecordRef first = rec.recordAt(0, 11);
-        QCOMPARE(first.universe, quint16(11));
+        QCOMPARE(rec.recordAt(0, 11).universe, quint16(11));
         for (int ball = 0; ball < 8; ++ball) {
             const auto position = [&](qint64 frame) {
                 const QByteArrayView d = rec.dataOf(rec.recordAt(frame, 11));
@@ -78,16 +65,15 @@ private slots:
 
     void refusedAndUsage()
     {
-        QByteArray json;
-        QCOMPARE(run({QStringLiteral("recording"), m_dir.path(), QStringLiteral("--json")}, &json), 1);
-        const QJsonObject o = QJsonDocument::fromJson(json).object();
-        QCOMPARE(o.value(QStringLiteral("ok")).toBool(), false);
-        QVERIFY(o.value(QStringLiteral("error")).toString().startsWith(QStringLiteral("Could not open")));
-        QCOMPARE(run({QStringLiteral("recording")}), 2);
-        QCOMPARE(run({QStringLiteral("recording"), example("demo.tpx"), QStringLiteral("--patch"),
-                      m_dir.filePath(QStringLiteral("none.tpatch"))}),
-                 1);
-        QCOMPARE(run({QStringLiteral("recording"), QStringLiteral("--help")}), 0);
+        const TestCli::Run refused = run({"recording", m_dir.path(), "--json"});
+        QCOMPARE(refused.exitCode, 1);
+        QCOMPARE(refused.json().value(QStringLiteral("ok")).toBool(), false);
+        const QString error = refused.json().value(QStringLiteral("error")).toString();
+        QVERIFY(error.startsWith(QStringLiteral("Could not open")));
+        QCOMPARE(run({"recording"}).exitCode, 2);
+        const QString noPatch = m_dir.filePath(QStringLiteral("none.tpatch"));
+        QCOMPARE(run({"recording", example("demo.tpx"), "--patch", noPatch}).exitCode, 1);
+        QCOMPARE(run({"recording", "--help"}).exitCode, 0);
     }
 };
 
