@@ -15,6 +15,7 @@
 #include "recording/recording.h"
 #include "style/moxstyle.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
@@ -35,7 +36,7 @@ constexpr int kHealthRefreshMs = 500;
 
 const QVector<QRgb> &MainWindow::shownColours() const
 {
-    return m_bar.health->isChecked() ? m_health.colours : m_colours.colours();
+    return m_bar.health->isChecked() && m_health.available ? m_health.colours : m_colours.colours();
 }
 
 Health::StatePalette MainWindow::healthPalette() const
@@ -71,7 +72,7 @@ void MainWindow::showUniverseHealth()
         });
         connect(m_health.window, &UniverseHealthWindow::exportRequested, this, &MainWindow::exportHealth);
     }
-    m_health.window->setPalette(healthPalette());
+    m_health.window->setStatePalette(healthPalette());
     m_health.window->show();
     m_health.window->raise();
     m_health.window->activateWindow();
@@ -93,12 +94,14 @@ const Health::Analyser *MainWindow::recordedHealth(QString *source)
     }
     const QString path = m_recordingSourcePath;
     const int fps = m_playbackPanel->fps();
-    // Analysed once per file and frame rate: a capture from its packets, with
-    // senders and sequence numbers; a recording from its frames.
-    if (!m_health.recorded || m_health.recordedFps != fps) {
+    // Analysed once per file: a capture from its packets (with senders and
+    // sequence numbers), a recording from its frames, again when its rate changes.
+    if (!m_health.recorded || (!m_health.recordedIsCapture && m_health.recordedFps != fps)) {
         m_health.recordedFps = fps;
         m_health.recordedError.clear();
-        if (PacketLog::isCaptureFile(path)) {
+        m_health.recordedIsCapture = PacketLog::isCaptureFile(path);
+        QApplication::setOverrideCursor(Qt::WaitCursor); // a large capture takes a moment
+        if (m_health.recordedIsCapture) {
             Health::FileHealth analysed = Health::analyseFile(path, fps);
             m_health.recordedError = analysed.error;
             m_health.recorded = std::make_unique<Health::Analyser>(std::move(analysed.analyser));
@@ -106,16 +109,18 @@ const Health::Analyser *MainWindow::recordedHealth(QString *source)
             m_health.recorded = std::make_unique<Health::Analyser>();
             Health::analyseRecording(*m_recording, fps, m_health.recorded.get());
         }
+        QApplication::restoreOverrideCursor();
     }
     const QString name = QFileInfo(path).fileName();
-    *source = m_health.recordedError.isEmpty()
-                  ? (PacketLog::isCaptureFile(path)
-                         ? tr("Capture %1, over the whole file.").arg(name)
-                         : tr("Recording %1 at %2 fps, over the whole file (a recording keeps no senders or "
-                              "sequence numbers).")
-                               .arg(name)
-                               .arg(fps))
-                  : tr("Capture %1 could not be read: %2").arg(name, m_health.recordedError);
+    if (!m_health.recordedError.isEmpty())
+        *source = tr("Capture %1 could not be read: %2").arg(name, m_health.recordedError);
+    else if (m_health.recordedIsCapture)
+        *source = tr("Capture %1, over the whole file.").arg(name);
+    else
+        *source = tr("Recording %1 at %2 fps, over the whole file (a recording keeps no senders or sequence "
+                     "numbers).")
+                      .arg(name)
+                      .arg(fps);
     return m_health.recorded.get();
 }
 
@@ -148,8 +153,13 @@ void MainWindow::refreshHealth()
     }
     const Health::Analyser none;
     m_health.figures = (analyser ? *analyser : none).universes(nowNs, patched);
+    // Without figures (a GPS set, no recording) the monitor keeps the DMX colours
+    // rather than calling every fixture unfed; the hint line says why.
+    m_health.available = analyser != nullptr;
+    m_health.unavailableReason = analyser ? QString() : source;
     if (m_bar.health->isChecked()) {
         Health::paintStates(m_layout, m_health.figures, healthPalette(), &m_health.colours);
+        m_view2d->setColours(&shownColours());
         pushMonitor();
         if (m_view2d->hoveredPixel() >= 0)
             onCellHovered(m_view2d->hoveredPixel());
@@ -160,6 +170,8 @@ void MainWindow::refreshHealth()
 
 QString MainWindow::healthHoverText(int pixelNumber) const
 {
+    if (!m_health.available)
+        return m_health.unavailableReason;
     const quint16 portAddress = m_layout.pixels.at(pixelNumber).portAddress;
     const Health::UniverseHealth *universe = Health::findUniverse(m_health.figures, portAddress);
     return universe ? Health::figuresText(*universe) : Health::stateDisplayName(QStringLiteral("never"));
@@ -177,8 +189,9 @@ void MainWindow::exportHealth()
     const QByteArray csv = UniverseHealthModel::csv(m_health.figures);
     if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit()) {
         QMessageBox::warning(m_health.window, tr("Export Universe Health"),
-                             tr("Could not write %1: %2").arg(path, file.errorString()));
+                             tr("Could not write %1: %2").arg(QDir::toNativeSeparators(path), file.errorString()));
         return;
     }
-    showStatus([path] { return tr("Universe health exported to %1.").arg(path); }, 5000);
+    const QString shown = QDir::toNativeSeparators(path);
+    showStatus([shown] { return tr("Universe health exported to %1.").arg(shown); }, 5000);
 }

@@ -497,7 +497,7 @@ void MainWindow::applyTheme(const QString &id)
     const QString applied = m_style->currentThemeId();
     openSettings()->setValue(SettingsKey::theme, applied);
     if (m_health.window)
-        m_health.window->setPalette(healthPalette());
+        m_health.window->setStatePalette(healthPalette());
     refreshHealth();
     showStatus([applied] { return tr("Interface theme: %1").arg(MoxStyle::themeDisplayName(applied)); },
                4000);

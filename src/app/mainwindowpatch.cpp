@@ -105,10 +105,10 @@ void MainWindow::onUploadRequested(const QString &path)
     setPatchLoaded(true);
     m_colours.setPatch(&m_layout.pixels);
     m_view2d->setPatch(&m_patch, &m_layout);
-    refreshHealth(); // the overlay's colours for the new pixels
-    m_view2d->setColours(&shownColours());
     m_view3d->setPatch(m_layout);
     m_dmxInspector->setPixelLayout(&m_layout);
+    refreshHealth(); // the overlay's colours for the new pixels
+    m_view2d->setColours(&shownColours());
     if (!m_recording->isLoaded())
         m_playbackPanel->setMessage([] { return tr("No recording loaded."); }, 0);
 
@@ -180,6 +180,6 @@ void MainWindow::onUploadRequested(const QString &path)
     }
     // A loaded recording is evaluated against the new patch.
     if (m_recording->isLoaded())
-        onRecordingLoadRequested(m_recording->path());
+        onRecordingLoadRequested(m_recordingSourcePath.isEmpty() ? m_recording->path() : m_recordingSourcePath);
     saveSettings();
 }

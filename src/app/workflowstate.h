@@ -66,7 +66,10 @@ struct HealthWorkflow
     QTimer timer;
     QVector<Health::UniverseHealth> figures;
     QVector<QRgb> colours;
+    bool available = false;      // whether the figures follow a source (not a GPS set, not nothing)
+    QString unavailableReason;   // shown on the hint line then
     std::unique_ptr<Health::Analyser> recorded;
+    bool recordedIsCapture = false;
     int recordedFps = 0;
     QString recordedError;
 };

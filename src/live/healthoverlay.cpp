@@ -13,15 +13,16 @@ namespace {
 struct StateWord
 {
     State state;
-    const char *word; // as the analyser and talu-cli write it
+    const char *word;    // as the analyser and talu-cli write it
+    const char *display; // as the window shows it
 };
 
 constexpr StateWord kWords[] = {
-    {State::Never, QT_TRANSLATE_NOOP("Health", "never")},
-    {State::Stale, QT_TRANSLATE_NOOP("Health", "stale")},
-    {State::Conflict, QT_TRANSLATE_NOOP("Health", "conflict")},
-    {State::Unstable, QT_TRANSLATE_NOOP("Health", "unstable")},
-    {State::Ok, QT_TRANSLATE_NOOP("Health", "ok")},
+    {State::Never, "never", QT_TRANSLATE_NOOP("Health", "never received")},
+    {State::Stale, "stale", QT_TRANSLATE_NOOP("Health", "stale")},
+    {State::Conflict, "conflict", QT_TRANSLATE_NOOP("Health", "conflict")},
+    {State::Unstable, "unstable", QT_TRANSLATE_NOOP("Health", "unstable")},
+    {State::Ok, "ok", QT_TRANSLATE_NOOP("Health", "ok")},
 };
 
 } // namespace
@@ -38,7 +39,7 @@ QString stateDisplayName(const QString &word)
 {
     for (const StateWord &w : kWords)
         if (word == QLatin1String(w.word))
-            return QCoreApplication::translate("Health", w.word);
+            return QCoreApplication::translate("Health", w.display);
     return word;
 }
 
@@ -63,12 +64,12 @@ void paintStates(const TPatch::PixelLayout &layout, const QVector<UniverseHealth
 QString figuresText(const UniverseHealth &u)
 {
     if (u.state == QLatin1String("never"))
-        return stateDisplayName(u.state) + QCoreApplication::translate("Health", " · nothing received");
+        return stateDisplayName(u.state);
     qint64 lastSeenMs = -1;
     for (const SourceHealth &s : u.sources)
         lastSeenMs = lastSeenMs < 0 ? s.lastSeenMs : std::min(lastSeenMs, s.lastSeenMs);
     return QCoreApplication::translate("Health",
-                                       "%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · "
+                                       "%1 · %n sender(s) · %2 fps · lost %3 · out of order %4 · duplicates %5 · "
                                        "last %6 s ago",
                                        nullptr, int(u.sources.size()))
         .arg(stateDisplayName(u.state))

@@ -22,7 +22,7 @@ constexpr int kStateCount = 5;
 
 // The analyser's state word ("stale", ...) as a state; an unknown word is Never.
 State stateOf(const QString &word);
-// The state as the user reads it, in their language ("stale", "Konflikt"...).
+// The state as the user reads it, in their language ("never received", "Konflikt"...).
 QString stateDisplayName(const QString &word);
 
 // One colour per state, indexed by State; the window takes them from the theme.
@@ -42,7 +42,7 @@ void paintStates(const TPatch::PixelLayout &layout, const QVector<UniverseHealth
                  const StatePalette &palette, QVector<QRgb> *colours);
 
 // One line of a universe's figures for the monitor's hover line:
-// "stale · 1 sender · 0.0 fps · 0 lost · 0 out of order · 0 duplicates · last 5.2 s ago".
+// "stale · 1 sender(s) · 0.0 fps · lost 0 · out of order 0 · duplicates 0 · last 5.2 s ago".
 QString figuresText(const UniverseHealth &universe);
 
 } // namespace Health

@@ -50,10 +50,15 @@ qint64 lastSeenMs(const UniverseHealth &u)
     return ms;
 }
 
+// A recording keeps no senders: its one "sender" is the file.
+bool isRecording(const SourceHealth &s)
+{
+    return s.address == 0 && s.port == 0;
+}
+
 QString senderText(const SourceHealth &s)
 {
-    // A recording keeps no senders: its one "sender" is the file.
-    if (s.address == 0 && s.port == 0)
+    if (isRecording(s))
         return QCoreApplication::translate("UniverseHealthModel", "the recording");
     return QStringLiteral("%1:%2").arg(QHostAddress(s.address).toString()).arg(s.port);
 }
@@ -115,7 +120,7 @@ std::map<quint16, std::vector<quint64>> shapeOf(const QVector<UniverseHealth> &r
 
 UniverseHealthModel::UniverseHealthModel(QObject *parent) : QAbstractItemModel(parent) {}
 
-void UniverseHealthModel::setUniverses(QVector<UniverseHealth> universes)
+void UniverseHealthModel::setUniverses(QVector<UniverseHealth> universes, const QSet<quint16> &open)
 {
     sortRows(&universes);
     if (shapeOf(universes) != shapeOf(m_rows)) {
@@ -124,10 +129,10 @@ void UniverseHealthModel::setUniverses(QVector<UniverseHealth> universes)
         endResetModel();
         return;
     }
-    relayout(std::move(universes));
+    relayout(std::move(universes), open);
 }
 
-void UniverseHealthModel::relayout(QVector<UniverseHealth> rows)
+void UniverseHealthModel::relayout(QVector<UniverseHealth> rows, const QSet<quint16> &open)
 {
     bool sameOrder = true;
     for (int i = 0; i < rows.size() && sameOrder; ++i)
@@ -136,10 +141,15 @@ void UniverseHealthModel::relayout(QVector<UniverseHealth> rows)
         m_rows = std::move(rows);
         if (m_rows.isEmpty())
             return;
-        // One signal for all: a view repaints its viewport for a range, the
-        // open senders' rows with it. One per universe would cost a tree view
-        // a search of its rows each, thousands of times a refresh.
+        // One signal for the universes, and one per universe whose senders are
+        // open: one per universe would cost a tree view a search of its rows
+        // each, thousands of times a refresh.
         emit dataChanged(index(0, 0), index(int(m_rows.size()) - 1, ColumnCount - 1));
+        for (int i = 0; i < m_rows.size(); ++i) {
+            const qsizetype senders = m_rows.at(i).sources.size();
+            if (senders > 0 && open.contains(m_rows.at(i).portAddress))
+                emit dataChanged(index(0, 0, index(i, 0)), index(int(senders) - 1, ColumnCount - 1, index(i, 0)));
+        }
         return;
     }
     emit layoutAboutToBeChanged();
@@ -190,7 +200,7 @@ void UniverseHealthModel::sort(int column, Qt::SortOrder order)
     m_sortOrder = order;
     QVector<UniverseHealth> rows = m_rows;
     sortRows(&rows);
-    relayout(std::move(rows));
+    relayout(std::move(rows), {});
 }
 
 QModelIndex UniverseHealthModel::index(int row, int column, const QModelIndex &parent) const
@@ -199,7 +209,8 @@ QModelIndex UniverseHealthModel::index(int row, int column, const QModelIndex &p
         return {};
     if (!parent.isValid())
         return row < m_rows.size() ? createIndex(row, column, quintptr(0)) : QModelIndex();
-    if (parent.internalId() != 0 || parent.row() >= m_rows.size() || row >= m_rows.at(parent.row()).sources.size())
+    if (parent.internalId() != 0 || parent.column() != 0 || parent.row() >= m_rows.size() ||
+        row >= m_rows.at(parent.row()).sources.size())
         return {};
     // A sender's row carries its universe's row, plus one so 0 stays "top level".
     return createIndex(row, column, quintptr(parent.row() + 1));
@@ -297,7 +308,8 @@ QByteArray UniverseHealthModel::csv(const QVector<UniverseHealth> &universes)
                QByteArray::number(u.syncMissed) + ',' + QByteArray::number(lengthChanges(u)) + ',' +
                (seen < 0 ? QByteArray() : QByteArray::number(seen)) + ",,,\r\n";
         for (const SourceHealth &s : u.sources)
-            out += TPatch::formatPortAddress(u.portAddress).toLatin1() + ",," + senderText(s).toLatin1() + ',' +
+            out += TPatch::formatPortAddress(u.portAddress).toLatin1() + ",," +
+                   (isRecording(s) ? QByteArray("recording") : senderText(s).toLatin1()) + ',' +
                    QByteArray::number(s.packets) + ',' + number(s.fps) + ',' + QByteArray::number(s.lost) + ',' +
                    QByteArray::number(s.outOfOrder) + ',' + QByteArray::number(s.duplicates) + ",," +
                    QByteArray::number(s.lengthChanges) + ',' + QByteArray::number(s.lastSeenMs) + ',' +

@@ -3,6 +3,7 @@
 #include "live/healthoverlay.h"
 
 #include <QAbstractItemModel>
+#include <QSet>
 
 // The "Universe health" table: one row per universe, its senders as child
 // rows; sortable by any column (the senders keep their order); every
@@ -31,8 +32,11 @@ public:
 
     explicit UniverseHealthModel(QObject *parent = nullptr);
 
-    // The analyser's universes, sorted by Port-Address.
-    void setUniverses(QVector<Health::UniverseHealth> universes);
+    // The analyser's universes, sorted by Port-Address. open: the universes
+    // whose senders a view shows, so their rows are signalled as changed too.
+    void setUniverses(QVector<Health::UniverseHealth> universes, const QSet<quint16> &open = {});
+    // The column titles in the new language.
+    void retranslate() { emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1); }
     void setPalette(const Health::StatePalette &palette);
     // The universe on a top-level row (in the order shown).
     const Health::UniverseHealth &universeAt(int row) const { return m_rows.at(row); }
@@ -51,7 +55,7 @@ public:
 private:
     void sortRows(QVector<Health::UniverseHealth> *rows) const;
     // Moves to new rows of the same universes and senders, keeping persistent indexes on their universe and sender.
-    void relayout(QVector<Health::UniverseHealth> rows);
+    void relayout(QVector<Health::UniverseHealth> rows, const QSet<quint16> &open);
 
     QVector<Health::UniverseHealth> m_rows; // in the order shown
     Health::StatePalette m_palette;

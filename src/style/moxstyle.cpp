@@ -21,7 +21,8 @@ struct NamedColour
 
 // Every theme names every role below; the contrast test holds each text role
 // against the backgrounds it is drawn on (at least 4.5 : 1). The health roles
-// paint fixtures on the dark monitor, told apart by hue; "never fed" is dim.
+// paint fixtures on the grey monitor, told apart by hue and, in dim red, by
+// brightness too; "never fed" is the dimmest.
 //
 // The monitor is dark so that lit pixels read as they do on site; the dark
 // theme keeps the rest of the window out of the way of that.
@@ -58,8 +59,8 @@ constexpr NamedColour kDimRed[] = {
     {"button", "#2a0d0a"},   {"accent", "#ff7043"}, {"border", "#4a1a14"},  {"info", "#d08050"},
     {"warning", "#e09040"},  {"error", "#ff5050"},  {"highlight", "#5a1a12"}, {"success", "#c09048"},
     {"hint", "#d87060"},     {"disabledText", "#7a3328"}, {"highlightedText", "#ffb0a0"},
-    {"healthOk", "#6a2a18"}, {"healthUnstable", "#d08030"}, {"healthConflict", "#ff9060"}, {"healthStale", "#ff2020"},
-    {"healthNever", "#2e1410"},
+    {"healthOk", "#9a5a28"}, {"healthUnstable", "#f0b050"}, {"healthConflict", "#ff7a8a"}, {"healthStale", "#ff1a1a"},
+    {"healthNever", "#3a0e0a"},
 };
 
 struct Theme

@@ -243,20 +243,20 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     emit view->cellHovered(w.pixelLayout().pixelsForPortAddress(0).at(0));
     const QString figures = labelText(&w, "monitorHint").section(QStringLiteral("  |  "), 1);
     QVERIFY2(figures.startsWith(QStringLiteral("unstable · 1 sender(s) · ")) &&
-                 figures.contains(QStringLiteral(" fps · 1 lost · 0 out of order · 0 duplicates · last ")),
+                 figures.contains(QStringLiteral(" fps · lost 1 · out of order 0 · duplicates 0 · last ")),
              qPrintable(figures));
     w.menuAction("Universe Health...")->trigger();
     auto *health = w.findChild<UniverseHealthWindow *>();
     QVERIFY(health && health->isVisible());
     const auto label = [health](const char *name) { return labelText(health, name); };
     QCOMPARE(label("healthSource"), QStringLiteral("Live: the node on 192.0.2.1:%1, fps over the last second.").arg(kPort));
-    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 13 never · 1 conflict · 1 unstable"));
+    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 13 never received · 1 conflict · 1 unstable"));
     QCOMPARE(label("healthSync"), QStringLiteral("No ArtSync seen."));
     const QAbstractItemModel *table = health->table()->model();
     QCOMPARE(table->index(1, UniverseHealthModel::StateColumn).data().toString(), QStringLiteral("conflict"));
     QCOMPARE(table->rowCount(table->index(1, 0)), 2);
     click(health, QStringLiteral("Reset"));
-    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 15 never"));
+    QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 15 never received"));
 
     // Off again, the monitor shows the DMX colours.
     click(&w, QStringLiteral("Health"));

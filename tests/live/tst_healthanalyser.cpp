@@ -134,7 +134,7 @@ private slots:
         QCOMPARE(QStringList({text(0, 0), text(0, 1), text(0, 2), text(0, 9), text(0, 10)}),
                  QStringList({"0x0000", "ok", "3", "0.0 s ago", "25.0 / 25.0 / 25.0"}));
         QCOMPARE(QStringList({text(1, 1), text(2, 0), text(2, 1), text(2, 3)}),
-                 QStringList({"conflict", "0x0003", "never", ""}));
+                 QStringList({"conflict", "0x0003", "never received", ""}));
         QCOMPARE(model.data(model.index(1, UniverseHealthModel::StateColumn), Qt::DecorationRole).value<QColor>(),
                  QColor::fromRgb(0xFF000003));
         QCOMPARE(model.headerData(UniverseHealthModel::LostColumn, Qt::Horizontal, Qt::ToolTipRole).toString(),
@@ -147,10 +147,13 @@ private slots:
         const QPersistentModelIndex sender(model.index(1, 0, model.index(1, 0)));
         model.sort(UniverseHealthModel::StateColumn, Qt::AscendingOrder); // never, conflict, ok
         QCOMPARE(QStringList({text(0, 0), text(1, 0), text(2, 0)}), QStringList({"0x0003", "0x0001", "0x0000"}));
-        model.setUniverses(universes);
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        model.setUniverses(universes, {1}); // universe 1's senders are open: their rows are signalled too
         QCOMPARE(sender.parent().row(), 1);
         QCOMPARE(sender.data().toString(), QStringLiteral("10.0.0.2:6454"));
         QCOMPARE(resets.count(), 0);
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(changed.at(1).at(1).toModelIndex(), model.index(1, UniverseHealthModel::ColumnCount - 1, model.index(1, 0)));
         feed(analyser, QStringLiteral("50 3 0 1 512"));
         model.setUniverses(analyser.universes(50'000'000, {0, 1, 3}));
         QCOMPARE(resets.count(), 1);

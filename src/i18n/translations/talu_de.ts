@@ -564,10 +564,6 @@ Auswählen, um dieses Universum auf dem Monitor hervorzuheben.</translation>
         <translation>%1 kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
-        <source>never</source>
-        <translation>nie</translation>
-    </message>
-    <message>
         <source>stale</source>
         <translation>veraltet</translation>
     </message>
@@ -584,14 +580,14 @@ Auswählen, um dieses Universum auf dem Monitor hervorzuheben.</translation>
         <translation>ok</translation>
     </message>
     <message>
-        <source> · nothing received</source>
-        <translation> · nichts empfangen</translation>
+        <source>never received</source>
+        <translation>nie empfangen</translation>
     </message>
     <message numerus="yes">
-        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <source>%1 · %n sender(s) · %2 fps · lost %3 · out of order %4 · duplicates %5 · last %6 s ago</source>
         <translation>
-            <numerusform>%1 · %n Quelle · %2 fps · %3 verloren · %4 in falscher Reihenfolge · %5 Duplikate · zuletzt vor %6 s</numerusform>
-            <numerusform>%1 · %n Quellen · %2 fps · %3 verloren · %4 in falscher Reihenfolge · %5 Duplikate · zuletzt vor %6 s</numerusform>
+            <numerusform>%1 · %n Quelle · %2 fps · verloren %3 · falsche Reihenfolge %4 · Duplikate %5 · zuletzt vor %6 s</numerusform>
+            <numerusform>%1 · %n Quellen · %2 fps · verloren %3 · falsche Reihenfolge %4 · Duplikate %5 · zuletzt vor %6 s</numerusform>
         </translation>
     </message>
 </context>
@@ -2824,6 +2820,11 @@ So prüfen Sie, ob eine periodenbasierte Aufnahme nahtlos in Schleife läuft.</t
     <message>
         <source>Universe health</source>
         <translation>Universum-Zustand</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a count, then a state</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

@@ -564,10 +564,6 @@ Selecciónelo para resaltar este universo en el monitor.</translation>
         <translation>No se puede abrir %1: %2</translation>
     </message>
     <message>
-        <source>never</source>
-        <translation>nunca</translation>
-    </message>
-    <message>
         <source>stale</source>
         <translation>obsoleto</translation>
     </message>
@@ -584,14 +580,14 @@ Selecciónelo para resaltar este universo en el monitor.</translation>
         <translation>ok</translation>
     </message>
     <message>
-        <source> · nothing received</source>
-        <translation> · nada recibido</translation>
+        <source>never received</source>
+        <translation>nunca recibido</translation>
     </message>
     <message numerus="yes">
-        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <source>%1 · %n sender(s) · %2 fps · lost %3 · out of order %4 · duplicates %5 · last %6 s ago</source>
         <translation>
-            <numerusform>%1 · %n fuente · %2 fps · %3 perdidos · %4 desordenados · %5 duplicados · último hace %6 s</numerusform>
-            <numerusform>%1 · %n fuentes · %2 fps · %3 perdidos · %4 desordenados · %5 duplicados · último hace %6 s</numerusform>
+            <numerusform>%1 · %n fuente · %2 fps · perdidos %3 · desordenados %4 · duplicados %5 · último hace %6 s</numerusform>
+            <numerusform>%1 · %n fuentes · %2 fps · perdidos %3 · desordenados %4 · duplicados %5 · último hace %6 s</numerusform>
         </translation>
     </message>
 </context>
@@ -2824,6 +2820,11 @@ Así se comprueba si una grabación basada en periodos enlaza sin cortes.</trans
     <message>
         <source>Universe health</source>
         <translation>Salud de universos</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a count, then a state</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

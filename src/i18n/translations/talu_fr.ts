@@ -564,10 +564,6 @@ Sélectionnez pour mettre en évidence cet univers sur le moniteur.</translation
         <translation>Impossible d&apos;ouvrir %1 : %2</translation>
     </message>
     <message>
-        <source>never</source>
-        <translation>jamais</translation>
-    </message>
-    <message>
         <source>stale</source>
         <translation>périmé</translation>
     </message>
@@ -584,14 +580,14 @@ Sélectionnez pour mettre en évidence cet univers sur le moniteur.</translation
         <translation>ok</translation>
     </message>
     <message>
-        <source> · nothing received</source>
-        <translation> · rien reçu</translation>
+        <source>never received</source>
+        <translation>jamais reçu</translation>
     </message>
     <message numerus="yes">
-        <source>%1 · %n sender(s) · %2 fps · %3 lost · %4 out of order · %5 duplicates · last %6 s ago</source>
+        <source>%1 · %n sender(s) · %2 fps · lost %3 · out of order %4 · duplicates %5 · last %6 s ago</source>
         <translation>
-            <numerusform>%1 · %n source · %2 fps · %3 perdus · %4 hors séquence · %5 doublons · dernier il y a %6 s</numerusform>
-            <numerusform>%1 · %n sources · %2 fps · %3 perdus · %4 hors séquence · %5 doublons · dernier il y a %6 s</numerusform>
+            <numerusform>%1 · %n source · %2 fps · perdus %3 · hors séquence %4 · doublons %5 · dernier il y a %6 s</numerusform>
+            <numerusform>%1 · %n sources · %2 fps · perdus %3 · hors séquence %4 · doublons %5 · dernier il y a %6 s</numerusform>
         </translation>
     </message>
 </context>
@@ -2824,6 +2820,11 @@ C&apos;est ainsi que l&apos;on vérifie qu&apos;un enregistrement périodique bo
     <message>
         <source>Universe health</source>
         <translation>Santé des univers</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>a count, then a state</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

@@ -68,7 +68,7 @@ void UniverseHealthWindow::showHealth(const QVector<Health::UniverseHealth> &uni
     m_syncHealth = sync;
     m_source->setText(source);
     m_resetButton->setEnabled(resettable);
-    m_model->setUniverses(universes);
+    m_model->setUniverses(universes, m_expanded);
     showSummary();
 }
 
@@ -91,7 +91,7 @@ void UniverseHealthWindow::showSummary()
     for (const char *word : {"never", "stale", "conflict", "unstable", "ok"}) {
         const int n = counts[int(Health::stateOf(QLatin1String(word)))];
         if (n > 0)
-            parts << QStringLiteral("%1 %2").arg(n).arg(Health::stateDisplayName(QLatin1String(word)));
+            parts << tr("%1 %2", "a count, then a state").arg(n).arg(Health::stateDisplayName(QLatin1String(word)));
     }
     m_summary->setText(tr("%n universe(s): %1", nullptr, int(m_universes.size())).arg(parts.join(QStringLiteral(" · "))));
 }
@@ -111,5 +111,6 @@ void UniverseHealthWindow::retranslateUi()
     m_exportButton->setText(tr("Export CSV..."));
     m_exportButton->setAccessibleName(tr("Export the health table as CSV"));
     m_table->setAccessibleName(tr("Universe health"));
+    m_model->retranslate();
     showSummary();
 }

@@ -22,7 +22,7 @@ public:
     // source: what the figures come from, as the user reads it; resettable: whether a reset applies (live).
     void showHealth(const QVector<Health::UniverseHealth> &universes, const Health::SyncHealth &sync,
                     const QString &source, bool resettable);
-    void setPalette(const Health::StatePalette &palette) { m_model->setPalette(palette); }
+    void setStatePalette(const Health::StatePalette &palette) { m_model->setPalette(palette); }
     UniverseHealthModel *model() const { return m_model; }
     QTreeView *table() const { return m_table; }
 
