@@ -1,8 +1,9 @@
 // MainWindow: network health. The overlay paints every fixture in its
 // universe's state colour and the "Universe health" window lists the figures.
-// Both follow the live node in Live broadcast, otherwise the recording or
-// capture loaded for Standard Art-Net playback, analysed once over the whole
-// file; a timer refreshes them twice a second while either is on show.
+// Both follow the live node in Live broadcast (counting from when either was
+// turned on), otherwise the recording or capture loaded for Standard Art-Net
+// playback, analysed once over the whole file; a timer refreshes them twice a
+// second while either is on show.
 #include "app/mainwindow.h"
 
 #include "live/healthfile.h"
@@ -127,7 +128,15 @@ const Health::Analyser *MainWindow::recordedHealth(QString *source)
 void MainWindow::refreshHealth()
 {
     const bool windowShown = m_health.window && m_health.window->isVisible();
-    if (!m_bar.health->isChecked() && !windowShown) {
+    const bool wanted = m_bar.health->isChecked() || windowShown;
+    // The node analyses its stream only while someone looks: at thousands of
+    // universes the analysis costs the live monitor repaints. A new look
+    // starts from zero, so a pause never reads as one long interval.
+    if (m_live && wanted != m_live->healthEnabled()) {
+        m_live->resetHealth();
+        m_live->setHealthEnabled(wanted);
+    }
+    if (!wanted) {
         m_health.timer.stop();
         return;
     }

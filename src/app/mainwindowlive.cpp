@@ -26,8 +26,6 @@ LivePipeline &MainWindow::ensureLive()
         m_live = std::make_unique<LivePipeline>();
         connect(&m_live->node(), &ArtNetNode::statusChanged, this, &MainWindow::refreshBroadcastStatus);
         connect(m_live.get(), &LivePipeline::recordingFailed, this, &MainWindow::onRecordingFailed);
-        // The health overlay and table may be opened at any time and show the history.
-        m_live->setHealthEnabled(true);
     }
     return *m_live;
 }

@@ -44,9 +44,11 @@ public:
     // has the history; an owner without a log (talu-cli listen) disables it.
     PacketLog::PacketJournal &journal() { return m_journal; }
     // Network health of every datagram the node receives (ArtDmx and ArtSync),
-    // live; off until someone reads it (talu-cli listen).
+    // live; off until someone reads it (talu-cli listen; the window while its
+    // health overlay or table is on).
     const Health::Analyser &health() const { return m_health; }
     void setHealthEnabled(bool on) { m_healthEnabled = on; }
+    bool healthEnabled() const { return m_healthEnabled; }
     void resetHealth() { m_health.reset(); }
     static qint64 healthNowNs();
     // Every ArtPollReply the node receives (it drops them itself), for a node

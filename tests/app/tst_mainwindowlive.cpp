@@ -221,6 +221,9 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     w.show();
     uploadPatch(w);
     startListening(w);
+    // The node counts from when the overlay is turned on.
+    click(&w, QStringLiteral("Health"));
+    QVERIFY(w.livePipeline()->healthEnabled());
     // Universe 0 loses one packet of six; universe 1 comes from two senders.
     QUdpSocket controller, second;
     QVERIFY(controller.bind(kControllerAddress, 0) && second.bind(kControllerAddress, 0));
@@ -230,13 +233,12 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     controller.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
     second.writeDatagram(ArtNet::buildDmx(0x0001, 1, data), kNodeAddress, kPort);
     QTRY_COMPARE(w.livePipeline()->packetsApplied(), qint64(7));
-    click(&w, QStringLiteral("Health"));
     auto *view = w.findChild<LedMonitorView *>();
     const auto shownColourOf = [&](quint16 universe) {
         return view->canvas()->colours().at(w.pixelLayout().pixelsForPortAddress(universe).at(0));
     };
     const MoxStyle theme; // the window's own default theme
-    QCOMPARE(shownColourOf(0), theme.colour(QStringLiteral("healthUnstable")).rgba());
+    QTRY_COMPARE(shownColourOf(0), theme.colour(QStringLiteral("healthUnstable")).rgba()); // the next refresh
     QCOMPARE(shownColourOf(1), theme.colour(QStringLiteral("healthConflict")).rgba());
     QCOMPARE(shownColourOf(2), theme.colour(QStringLiteral("healthNever")).rgba());
     // Hovering a fixture adds its universe's figures to the hint line.
@@ -258,9 +260,11 @@ void TestMainWindowLive::healthOverlayAndTableFollowTheNode()
     click(health, QStringLiteral("Reset"));
     QCOMPARE(label("healthSummary"), QStringLiteral("15 universe(s): 15 never received"));
 
-    // Off again, the monitor shows the DMX colours.
+    // Off again, the monitor shows the DMX colours; closed, the table no longer keeps the node counting.
     click(&w, QStringLiteral("Health"));
     QCOMPARE(&view->canvas()->colours(), &w.colourBuffer().colours());
+    health->close();
+    QTRY_VERIFY(!w.livePipeline()->healthEnabled());
 }
 
 QTEST_MAIN(TestMainWindowLive)
