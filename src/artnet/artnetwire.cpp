@@ -6,23 +6,6 @@ namespace ArtNet {
 
 namespace {
 
-const uchar *bytesOf(QByteArrayView v)
-{
-    return reinterpret_cast<const uchar *>(v.data());
-}
-
-quint16 le16At(QByteArrayView d, int offset)
-{
-    const uchar *p = bytesOf(d) + offset;
-    return quint16(p[0] | (p[1] << 8));
-}
-
-quint16 be16At(QByteArrayView d, int offset)
-{
-    const uchar *p = bytesOf(d) + offset;
-    return quint16((p[0] << 8) | p[1]);
-}
-
 ClassifiedDatagram dmxAt(QByteArrayView d, DmxFlavour flavour, int headerSize)
 {
     // KEL carries the same 18-byte ArtDmx header behind its 12-byte prefix.
@@ -47,6 +30,18 @@ bool isKel(QByteArrayView d)
 }
 
 } // namespace
+
+quint16 le16At(QByteArrayView d, int offset)
+{
+    const auto *p = reinterpret_cast<const uchar *>(d.data()) + offset;
+    return quint16(p[0] | (p[1] << 8));
+}
+
+quint16 be16At(QByteArrayView d, int offset)
+{
+    const auto *p = reinterpret_cast<const uchar *>(d.data()) + offset;
+    return quint16((p[0] << 8) | p[1]);
+}
 
 ClassifiedDatagram classifyDatagram(QByteArrayView d)
 {

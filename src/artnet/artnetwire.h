@@ -72,6 +72,11 @@ QString kelDeviceName(QByteArrayView datagram);
 // disorder, and do not count.
 bool isSequenceError(quint8 last, quint8 sequence);
 
+// The 16-bit field at offset, as Art-Net writes most (little-endian) or the
+// lengths and versions (big-endian). The caller has checked offset + 2 <= size.
+quint16 le16At(QByteArrayView d, int offset);
+quint16 be16At(QByteArrayView d, int offset);
+
 // True when the Art-Net ID starts at offset (false when the bytes end first).
 inline bool hasIdAt(QByteArrayView bytes, qsizetype offset)
 {

@@ -17,9 +17,7 @@ namespace {
 constexpr int kLegacyReplySize = 207;
 constexpr qsizetype kMaxPolls = 16;
 
-quint16 le16(QByteArrayView d, int at) { return quint16(quint8(d[at]) | (quint8(d[at + 1]) << 8)); }
-quint16 be16(QByteArrayView d, int at) { return quint16((quint8(d[at]) << 8) | quint8(d[at + 1])); }
-quint32 be32(QByteArrayView d, int at) { return (quint32(be16(d, at)) << 16) | be16(d, at + 2); }
+quint32 be32(QByteArrayView d, int at) { return (quint32(be16At(d, at)) << 16) | be16At(d, at + 2); }
 
 QString latin1(QByteArrayView d, int at, int size)
 {
@@ -47,22 +45,22 @@ QElapsedTimer &monotonic()
 
 bool parsePollReply(QByteArrayView d, PollReplyFields *out)
 {
-    if (d.size() < kLegacyReplySize || !hasIdAt(d, 0) || le16(d, 8) != kOpPollReply)
+    if (d.size() < kLegacyReplySize || !hasIdAt(d, 0) || le16At(d, 8) != kOpPollReply)
         return false;
     PollReplyFields f;
     f.length = int(d.size());
     f.ip = be32(d, 10);
-    f.port = le16(d, 14);
-    f.firmware = be16(d, 16);
+    f.port = le16At(d, 14);
+    f.firmware = be16At(d, 16);
     f.net = quint8(d[18]) & 0x7F;
     f.subNet = quint8(d[19]) & 0x0F;
-    f.oem = be16(d, 20);
+    f.oem = be16At(d, 20);
     f.status1 = quint8(d[23]);
-    f.esta = le16(d, 24);
+    f.esta = le16At(d, 24);
     f.shortName = latin1(d, 26, 18);
     f.longName = latin1(d, 44, 64);
     f.report = latin1(d, 108, 64);
-    f.numPorts = std::min<int>(be16(d, 172), 4);
+    f.numPorts = std::min<int>(be16At(d, 172), 4);
     for (int i = 0; i < 4; ++i) {
         f.portTypes[size_t(i)] = quint8(d[174 + i]);
         f.swIn[size_t(i)] = quint8(d[186 + i]) & 0x0F;

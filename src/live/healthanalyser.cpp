@@ -229,6 +229,7 @@ QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16>
             h.lost += sh.lost;
             h.outOfOrder += sh.outOfOrder;
             h.duplicates += sh.duplicates;
+            h.lengthChanges += sh.lengthChanges;
             lastNs = std::max(lastNs, s.lastNs);
             if (s.maxIntervalNs > longest) {
                 longest = s.maxIntervalNs;
@@ -238,6 +239,8 @@ QVector<UniverseHealth> Analyser::universes(qint64 nowNs, const QVector<quint16>
                 ++recentSenders;
             h.sources.append(sh);
         }
+        if (!u.sources.empty())
+            h.lastSeenMs = std::max<qint64>(0, (nowNs - lastNs) / 1'000'000);
         const qint64 faults = h.lost + h.outOfOrder + h.duplicates;
         if (nowNs - lastNs > kStaleNs)
             h.state = QStringLiteral("stale");

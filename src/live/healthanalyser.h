@@ -53,6 +53,8 @@ struct UniverseHealth
     qint64 outOfOrder = 0;
     qint64 duplicates = 0;
     qint64 syncMissed = 0; // sync periods in which it came twice or not at all
+    qint64 lengthChanges = 0; // of all its senders
+    qint64 lastSeenMs = -1;   // since its latest packet from any sender; -1: never
     QVector<SourceHealth> sources;
 };
 

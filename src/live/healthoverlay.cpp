@@ -65,9 +65,6 @@ QString figuresText(const UniverseHealth &u)
 {
     if (u.state == QLatin1String("never"))
         return stateDisplayName(u.state);
-    qint64 lastSeenMs = -1;
-    for (const SourceHealth &s : u.sources)
-        lastSeenMs = lastSeenMs < 0 ? s.lastSeenMs : std::min(lastSeenMs, s.lastSeenMs);
     return QCoreApplication::translate("Health",
                                        "%1 · %n sender(s) · %2 fps · lost %3 · out of order %4 · duplicates %5 · "
                                        "last %6 s ago",
@@ -77,7 +74,7 @@ QString figuresText(const UniverseHealth &u)
         .arg(u.lost)
         .arg(u.outOfOrder)
         .arg(u.duplicates)
-        .arg(double(std::max<qint64>(0, lastSeenMs)) / 1000.0, 0, 'f', 1);
+        .arg(double(u.lastSeenMs) / 1000.0, 0, 'f', 1);
 }
 
 } // namespace Health

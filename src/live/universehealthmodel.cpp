@@ -33,23 +33,6 @@ const char *const kHeaders[UniverseHealthModel::ColumnCount] = {
     QT_TRANSLATE_NOOP("UniverseHealthModel", "Intervals min / median / max (ms)"),
 };
 
-qint64 lengthChanges(const UniverseHealth &u)
-{
-    qint64 n = 0;
-    for (const SourceHealth &s : u.sources)
-        n += s.lengthChanges;
-    return n;
-}
-
-// -1 for a universe never received.
-qint64 lastSeenMs(const UniverseHealth &u)
-{
-    qint64 ms = -1;
-    for (const SourceHealth &s : u.sources)
-        ms = ms < 0 ? s.lastSeenMs : std::min(ms, s.lastSeenMs);
-    return ms;
-}
-
 // A recording keeps no senders: its one "sender" is the file.
 bool isRecording(const SourceHealth &s)
 {
@@ -87,8 +70,8 @@ double sortKey(const UniverseHealth &u, int column)
     case UniverseHealthModel::OutOfOrderColumn: return double(u.outOfOrder);
     case UniverseHealthModel::DuplicatesColumn: return double(u.duplicates);
     case UniverseHealthModel::SyncMissedColumn: return double(u.syncMissed);
-    case UniverseHealthModel::LengthChangesColumn: return double(lengthChanges(u));
-    case UniverseHealthModel::LastSeenColumn: return double(lastSeenMs(u));
+    case UniverseHealthModel::LengthChangesColumn: return double(u.lengthChanges);
+    case UniverseHealthModel::LastSeenColumn: return double(u.lastSeenMs);
     case UniverseHealthModel::IntervalsColumn: {
         double longest = 0;
         for (const SourceHealth &s : u.sources)
@@ -277,8 +260,8 @@ QVariant UniverseHealthModel::data(const QModelIndex &index, int role) const
     case OutOfOrderColumn: return u.outOfOrder;
     case DuplicatesColumn: return u.duplicates;
     case SyncMissedColumn: return u.syncMissed;
-    case LengthChangesColumn: return lengthChanges(u);
-    case LastSeenColumn: return secondsText(lastSeenMs(u));
+    case LengthChangesColumn: return u.lengthChanges;
+    case LastSeenColumn: return secondsText(u.lastSeenMs);
     case IntervalsColumn: return u.sources.size() == 1 ? intervalsText(u.sources.constFirst()) : QString();
     default: return {};
     }
@@ -301,11 +284,11 @@ QByteArray UniverseHealthModel::csv(const QVector<UniverseHealth> &universes)
                      "lastSeenMs,minIntervalMs,medianIntervalMs,maxIntervalMs\r\n";
     const auto number = [](double v) { return QByteArray::number(v, 'f', 1); };
     for (const UniverseHealth &u : universes) {
-        const qint64 seen = lastSeenMs(u);
+        const qint64 seen = u.lastSeenMs;
         out += TPatch::formatPortAddress(u.portAddress).toLatin1() + ',' + u.state.toLatin1() + ",," +
                QByteArray::number(u.packets) + ',' + number(u.fps) + ',' + QByteArray::number(u.lost) + ',' +
                QByteArray::number(u.outOfOrder) + ',' + QByteArray::number(u.duplicates) + ',' +
-               QByteArray::number(u.syncMissed) + ',' + QByteArray::number(lengthChanges(u)) + ',' +
+               QByteArray::number(u.syncMissed) + ',' + QByteArray::number(u.lengthChanges) + ',' +
                (seen < 0 ? QByteArray() : QByteArray::number(seen)) + ",,,\r\n";
         for (const SourceHealth &s : u.sources)
             out += TPatch::formatPortAddress(u.portAddress).toLatin1() + ",," +
